@@ -1,0 +1,234 @@
+#include "face/microq/MicroQWindow.hpp"
+
+#include "face/qt/Look.hpp"
+#include "service/builtin/MessageText.hpp"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTimer>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Tessoro {
+
+namespace {
+
+constexpr std::chrono::milliseconds RefreshInterval{33};
+constexpr int Margin = 10;
+constexpr int Gap = 6;
+
+// The bars of the editor are as large as their forms say; those of a list have to say it
+// themselves.
+class ListBar : public QScrollBar {
+public:
+  using QScrollBar::QScrollBar;
+  QSize sizeHint() const override { return {Thickness, Thickness}; }
+
+private:
+  static constexpr int Thickness = 14;
+};
+
+QLabel *MakeHeading(const QString &text) {
+  auto *heading = new QLabel(text);
+  heading->setFont(Look::Font(TextSize::Heading, {}, QFont::DemiBold));
+  return heading;
+}
+
+int WidthOf(const QWidget &widget, const QString &text) {
+  constexpr int roomAround = 22;
+  return widget.fontMetrics().horizontalAdvance(text) + roomAround;
+}
+
+} // namespace
+
+MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInbox,
+                           const QString &title)
+    : source(microQ), inbox(messageInbox), filter(buffer) {
+  setWindowTitle(title);
+  setAttribute(Qt::WA_ShowWithoutActivating); // the editor keeps the keyboard
+  setFont(Look::Font(TextSize::Menu, {}));
+
+  auto *panes = new QSplitter;
+  panes->addWidget(MakeMessagePane());
+  panes->addWidget(MakeBufferPane());
+  panes->setSizes({590, 480});
+  panes->setChildrenCollapsible(false);
+  panes->setHandleWidth(Margin);
+  statusLine = new QLabel;
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(Margin, Margin, Margin, Gap);
+  column->setSpacing(Gap);
+  column->addWidget(panes, 1);
+  column->addWidget(statusLine);
+
+  refreshTimer = new QTimer(this);
+  refreshTimer->setInterval(RefreshInterval);
+  connect(refreshTimer, &QTimer::timeout, this, &MicroQWindow::Refresh);
+  connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
+          &MicroQWindow::Copy);
+  resize(1080, 560);
+}
+
+QWidget *MicroQWindow::MakeMessagePane() {
+  auto *pane = new QWidget;
+  auto *column = new QVBoxLayout(pane);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(Gap);
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Gap);
+  row->addWidget(MakeHeading(tr("Messages")), 1);
+  pauseButton = MakeButton(tr("&Pause"), tr("Stops the list; messages that come are kept"), *row);
+  connect(pauseButton, &QPushButton::clicked, this, [this] { Pause(!isPaused); });
+  connect(MakeButton(tr("C&lear"), tr("Empties the list; the edit buffer stays"), *row),
+          &QPushButton::clicked, this, &MicroQWindow::Clear);
+  connect(MakeButton(tr("&Copy"), tr("Copies the selected lines, or all if none is"), *row),
+          &QPushButton::clicked, this, &MicroQWindow::Copy);
+  column->addLayout(row);
+
+  messageList = MakeList(messages, tr("Messages"));
+  messageList->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  QHeaderView *header = messageList->header();
+  header->resizeSection(MessageModel::Time, WidthOf(*messageList, QStringLiteral("00000.000")));
+  header->resizeSection(MessageModel::Bytes,
+                        WidthOf(*messageList, QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7")));
+  column->addWidget(messageList, 1);
+  return pane;
+}
+
+QWidget *MicroQWindow::MakeBufferPane() {
+  auto *pane = new QWidget;
+  auto *column = new QVBoxLayout(pane);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(Gap);
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Gap);
+  row->addWidget(MakeHeading(tr("Edit buffer")), 1);
+  auto *search = new QLineEdit;
+  search->setPlaceholderText(tr("Search name or number"));
+  search->setAccessibleName(tr("Search in the edit buffer"));
+  search->setFixedHeight(search->fontMetrics().height() + Margin);
+  search->setMinimumWidth(WidthOf(*search, search->placeholderText()));
+  search->setFrame(false);
+  connect(search, &QLineEdit::textChanged, &filter, &BufferFilter::Search);
+  row->addWidget(search);
+  column->addLayout(row);
+
+  QTreeView *list = MakeList(filter, tr("Edit buffer"));
+  QHeaderView *header = list->header();
+  header->resizeSection(BufferModel::Number, WidthOf(*list, QStringLiteral("CC 68")));
+  header->resizeSection(BufferModel::Value, WidthOf(*list, QStringLiteral("0000")));
+  header->resizeSection(BufferModel::Name,
+                        WidthOf(*list, QStringLiteral("Filter 1 cutoff modulation")));
+  column->addWidget(list, 1);
+  return pane;
+}
+
+QTreeView *MicroQWindow::MakeList(QAbstractItemModel &model, const QString &accessibleName) {
+  auto *list = new QTreeView;
+  list->setModel(&model);
+  list->setAccessibleName(accessibleName);
+  list->setPalette(Look::Field(Colors::Navy));
+  list->header()->setPalette(Look::Windows());
+  list->header()->setSectionsMovable(false);
+  list->setRootIsDecorated(false);
+  list->setUniformRowHeights(true); // else 10,000 rows would be measured one by one
+  list->setItemsExpandable(false);
+  list->setFrameShape(QFrame::NoFrame);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  auto *bar = new ListBar;
+  bar->setPalette(Look::Windows());
+  list->setVerticalScrollBar(bar);
+  return list;
+}
+
+QPushButton *MicroQWindow::MakeButton(const QString &text, const QString &toolTip, QLayout &row) {
+  auto *button = new QPushButton(text);
+  button->setToolTip(toolTip);
+  button->setFixedSize(WidthOf(*button, tr("Resume")) + Margin,
+                       button->fontMetrics().height() + Margin);
+  row.addWidget(button);
+  return button;
+}
+
+void MicroQWindow::ShowStatus(const QString &text) {
+  status = text;
+  ShowCounts();
+}
+
+void MicroQWindow::Refresh() {
+  const auto now = std::chrono::steady_clock::now();
+  buffer.Fade(now);
+  if (const std::uint64_t total = inbox.Total(); total != seenTotal) {
+    seenTotal = total;
+    buffer.Take(source.State(), now);
+    if (!isPaused)
+      TakeMessages();
+    ShowCounts();
+  }
+}
+
+void MicroQWindow::TakeMessages() {
+  const QScrollBar &bar = *messageList->verticalScrollBar();
+  const bool wasAtBottom = bar.value() == bar.maximum();
+  messages.Append(inbox.Take().messages);
+  if (wasAtBottom)
+    messageList->scrollToBottom();
+}
+
+void MicroQWindow::ShowCounts() {
+  QStringList parts{status, tr("%L1 messages").arg(seenTotal)};
+  if (isPaused)
+    parts << tr("paused");
+  statusLine->setText(parts.join(QStringLiteral("   ·   ")));
+}
+
+void MicroQWindow::Pause(bool pauses) {
+  isPaused = pauses;
+  pauseButton->setText(isPaused ? tr("&Resume") : tr("&Pause"));
+  if (!isPaused)
+    TakeMessages();
+  ShowCounts();
+}
+
+void MicroQWindow::Clear() {
+  inbox.Take(); // also what a pause has held back
+  messages.Clear();
+}
+
+void MicroQWindow::Copy() {
+  QModelIndexList chosen = messageList->selectionModel()->selectedRows();
+  std::sort(chosen.begin(), chosen.end());
+  QString text;
+  const auto add = [&](int row) {
+    text += QString::fromStdString(MessageLine(messages.At(row))) + QLatin1Char('\n');
+  };
+  for (const QModelIndex &index : chosen)
+    add(index.row());
+  if (chosen.isEmpty())
+    for (int row = 0; row < messages.rowCount(); ++row)
+      add(row);
+  QApplication::clipboard()->setText(text);
+}
+
+void MicroQWindow::showEvent(QShowEvent *event) {
+  Refresh();
+  refreshTimer->start();
+  QWidget::showEvent(event);
+}
+
+void MicroQWindow::hideEvent(QHideEvent *event) {
+  refreshTimer->stop();
+  QWidget::hideEvent(event);
+}
+
+} // namespace Tessoro

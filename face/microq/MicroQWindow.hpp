@@ -1,0 +1,69 @@
+// The window of a microQ that isn't there: what it was sent, and what its edit buffer holds.
+#pragma once
+
+#include "face/microq/BufferModel.hpp"
+#include "face/microq/MessageModel.hpp"
+#include "service/builtin/MessageInbox.hpp"
+
+#include <QWidget>
+
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QTimer;
+class QTreeView;
+
+namespace Tessoro {
+
+// Looks at the microQ a number of times a second while it is visible, and at no other time; the
+// inbox takes what comes meanwhile.
+class MicroQWindow : public QWidget {
+  Q_OBJECT
+
+public:
+  // Both outlive the window.
+  MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &inbox, const QString &title);
+
+  // In words, at the bottom of the window: "Open", or where messages come from.
+  void ShowStatus(const QString &text);
+
+  // Shows what has come. The window's own timer calls it.
+  void Refresh();
+
+  void Pause(bool pauses);
+  void Clear();
+  // The selected lines, or all if none is selected, as text on the clipboard.
+  void Copy();
+
+  const MessageModel &Messages() const { return messages; }
+  const BufferModel &Buffer() const { return buffer; }
+
+protected:
+  void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+
+private:
+  QWidget *MakeMessagePane();
+  QWidget *MakeBufferPane();
+  QTreeView *MakeList(QAbstractItemModel &model, const QString &accessibleName);
+  QPushButton *MakeButton(const QString &text, const QString &toolTip, QLayout &row);
+  void TakeMessages();
+  void ShowCounts();
+
+  const BuiltinMicroQ &source;
+  MessageInbox &inbox;
+  MessageModel messages;
+  BufferModel buffer;
+  BufferFilter filter;
+  bool isPaused = false;
+  std::uint64_t seenTotal = 0;
+  QString status;
+
+  QTreeView *messageList = nullptr;
+  QPushButton *pauseButton = nullptr;
+  QLabel *statusLine = nullptr;
+  QTimer *refreshTimer = nullptr;
+};
+
+} // namespace Tessoro

@@ -1,0 +1,165 @@
+#include "face/qt/FileListViews.hpp"
+
+#include "face/qt/Look.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace Tessoro {
+
+namespace {
+
+constexpr double IndentInTwips = 150;
+
+// What a folder is called within the one that holds it; a root is called as a whole.
+QString OwnName(const std::string &path) {
+  const std::size_t last = path.find_last_of("/\\");
+  const bool isRoot = last == std::string::npos || last + 1 == path.size();
+  return FromModel(isRoot ? path : path.substr(last + 1));
+}
+
+int IndexIn(const std::vector<std::string> &list, const std::string &item) {
+  const auto found = std::find(list.begin(), list.end(), item);
+  return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+}
+
+} // namespace
+
+DriveListView::DriveListView(DriveListBox &shown, const Surroundings &around, QWidget *parent)
+    : QComboBox(parent), ControlView(shown, around), drives(shown) {
+  setFocusPolicy(Qt::StrongFocus);
+  setPalette(Look::Field(Colors::Navy));
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    const std::string chosen = drives.List()[static_cast<std::size_t>(index)];
+    Enter([&] { drives.UserChoose(chosen); });
+    ShowContent();
+  });
+}
+
+void DriveListView::SetScale(const Tessoro::Scale &newScale) {
+  ControlView::SetScale(newScale);
+  setFont(Look::Font(TextSize::Control, newScale));
+}
+
+void DriveListView::ShowContent() {
+  const QSignalBlocker silence(this);
+  clear();
+  for (const std::string &drive : drives.List())
+    addItem(FromModel(drive));
+  setCurrentIndex(IndexIn(drives.List(), drives.Drive()));
+}
+
+void DriveListView::wheelEvent(QWheelEvent *event) {
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}
+
+DirListView::DirListView(DirListBox &shown, const Surroundings &around, QWidget *parent)
+    : QListWidget(parent), ControlView(shown, around), folders(shown) {
+  setPalette(Look::Field(Colors::Navy));
+}
+
+void DirListView::SetScale(const Tessoro::Scale &newScale) {
+  ControlView::SetScale(newScale);
+  setFont(Look::Font(TextSize::Control, newScale));
+}
+
+// Ancestors step in from the root; the subfolders stand one step behind the open folder.
+void DirListView::ShowContent() {
+  const QSignalBlocker silence(this);
+  const int indent = std::max(1, Scale().RoundedPixels(IndentInTwips) /
+                                     std::max(1, fontMetrics().horizontalAdvance(u' ')));
+  clear();
+  const std::size_t ancestors = folders.AncestorCount();
+  for (std::size_t i = 0; i < folders.List().size(); ++i) {
+    const auto depth = static_cast<qsizetype>(std::min(i, ancestors));
+    addItem(QString(depth * indent, u' ') + OwnName(folders.List()[i]));
+  }
+  if (ancestors > 0)
+    setCurrentRow(static_cast<int>(ancestors) - 1);
+}
+
+void DirListView::OpenCurrent() {
+  const auto row = static_cast<std::size_t>(currentRow());
+  if (row >= folders.List().size())
+    return;
+  const std::string chosen = folders.List()[row];
+  Enter([&] { folders.UserChoose(chosen); });
+}
+
+void DirListView::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    OpenCurrent();
+  else
+    QListWidget::keyPressEvent(event);
+}
+
+void DirListView::mouseDoubleClickEvent(QMouseEvent *event) {
+  QListWidget::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr)
+    OpenCurrent();
+}
+
+FileListView::FileListView(FileListBox &shown, const Surroundings &around, QWidget *parent)
+    : QListWidget(parent), ControlView(shown, around), files(shown) {
+  setPalette(Look::Field(Colors::Navy));
+}
+
+void FileListView::SetScale(const Tessoro::Scale &newScale) {
+  ControlView::SetScale(newScale);
+  setFont(Look::Font(TextSize::Control, newScale));
+}
+
+void FileListView::Show(Property property) {
+  if (property == Property::FileName)
+    ShowChosen();
+  else
+    ControlView::Show(property);
+}
+
+void FileListView::ShowContent() {
+  const QSignalBlocker silence(this);
+  clear();
+  for (const std::string &file : files.List())
+    addItem(FromModel(file));
+  ShowChosen();
+}
+
+void FileListView::ShowChosen() { setCurrentRow(IndexIn(files.List(), files.FileName())); }
+
+void FileListView::ChooseCurrent() {
+  const auto row = static_cast<std::size_t>(currentRow());
+  if (row >= files.List().size())
+    return;
+  const std::string chosen = files.List()[row];
+  Enter([&] { files.UserChoose(chosen); });
+}
+
+void FileListView::keyPressEvent(QKeyEvent *event) {
+  const int before = currentRow();
+  QListWidget::keyPressEvent(event);
+  if (currentRow() != before)
+    ChooseCurrent();
+}
+
+void FileListView::mousePressEvent(QMouseEvent *event) {
+  QListWidget::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr)
+    ChooseCurrent();
+}
+
+void FileListView::mouseDoubleClickEvent(QMouseEvent *event) {
+  QListWidget::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr)
+    Enter([this] { files.UserDblClick(); });
+}
+
+} // namespace Tessoro

@@ -1,0 +1,15 @@
+// The modal box.
+#pragma once
+
+#include "surface/Screen.hpp"
+
+class QString;
+class QWidget;
+
+namespace Tessoro {
+
+// Flags as in MsgBoxFlags. Returns when the user has answered; closing the box, or Esc, counts as
+// Cancel, as No, or as OK where the box offers nothing else.
+MsgBoxButton ShowMessageBox(QWidget *parent, const QString &text, int flags, const QString &title);
+
+} // namespace Tessoro

@@ -1,0 +1,123 @@
+// Draws every form of the editor into picture files, without a display.
+#include "face/qt/FormWindow.hpp"
+#include "face/qt/MidiOfBuild.hpp"
+#include "face/qt/Program.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <array>
+#include <cstdio>
+
+namespace {
+
+using namespace Tessoro;
+
+struct PictureScale {
+  double factor;
+  const char *name;
+};
+
+constexpr std::array<PictureScale, 3> Scales{{{1, "1"}, {1.5, "1.5"}, {2, "2"}}};
+
+// Long enough for the hint that comes up at start.
+constexpr int SettlingMilliseconds = 700;
+
+void LetTimePass(int milliseconds) {
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+// Nobody is there to answer a message box.
+void AnswerBox() {
+  auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+  if (box == nullptr)
+    return;
+  std::fprintf(stderr, "tessoro-pictures: a box says: %s\n", qPrintable(box->text()));
+  box->defaultButton()->click();
+}
+
+bool SavePicture(FormWindow &window, const QString &name, const QDir &folder,
+                 const PictureScale &scale) {
+  QPixmap picture((QSizeF(window.size()) * scale.factor).toSize());
+  picture.setDevicePixelRatio(scale.factor);
+  window.render(&picture);
+  const QString file =
+      folder.filePath(QStringLiteral("%1@%2.png").arg(name, QString::fromLatin1(scale.name)));
+  if (picture.save(file))
+    return true;
+  std::fprintf(stderr, "tessoro-pictures: %s can't be written\n", qPrintable(file));
+  return false;
+}
+
+bool Save(FormWindow *window, const QString &name, const QDir &folder) {
+  if (window == nullptr) {
+    std::fprintf(stderr, "tessoro-pictures: %s doesn't come up\n", qPrintable(name));
+    return false;
+  }
+  bool isSaved = true;
+  for (const PictureScale &scale : Scales)
+    isSaved = SavePicture(*window, name, folder, scale) && isSaved;
+  return isSaved;
+}
+
+// Some forms need a sound to load. It goes to the built-in microQ.
+void InitSound(Application &editor) {
+  editor.Module1.MidiOutPort = 0;
+  editor.Module1.OpenCloseMidiOut("open");
+  editor.F_Tessoro.InitPanelParams();
+}
+
+int DrawForms(const QDir &folder) {
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, &AnswerBox);
+  answers.start(20);
+  const QTemporaryDir settings; // none in it, so the form for the ports comes up by itself
+  const auto midi = MakeBuiltinMidiService();
+  Program program(*midi, ToModel(settings.path()));
+  program.Editor().Start();
+  LetTimePass(SettlingMilliseconds);
+  Application &editor = program.Editor();
+  const auto draw = [&](const Form &form, const QString &suffix) {
+    return Save(program.Windows().WindowOf(form), QString::fromStdString(form.Name()) + suffix,
+                folder);
+  };
+  bool isSaved = draw(editor.F_Tessoro, {});
+  editor.Event([&editor] { InitSound(editor); });
+  LetTimePass(0);
+  isSaved = draw(editor.F_Tessoro, QStringLiteral("-init")) && isSaved;
+  for (Form *form : editor.Forms()) {
+    if (form == &editor.F_Tessoro)
+      continue;
+    if (!form->IsShown())
+      editor.Event([form] { form->Show(); });
+    LetTimePass(0);
+    isSaved = draw(*form, {}) && isSaved;
+  }
+  return isSaved ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+  if (argc != 2) {
+    std::fputs("Usage: tessoro-pictures DIRECTORY\n", stderr);
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  DressApplication();
+  const QDir folder(QString::fromLocal8Bit(argv[1]));
+  if (!folder.mkpath(QStringLiteral("."))) {
+    std::fprintf(stderr, "tessoro-pictures: %s can't be made\n", argv[1]);
+    return 1;
+  }
+  return DrawForms(folder);
+}

@@ -1,0 +1,145 @@
+#include "face/qt/PointerViews.hpp"
+
+#include "face/qt/Keys.hpp"
+#include "face/qt/Look.hpp"
+#include "face/qt/PictureStore.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace Tessoro {
+
+PointerView::PointerView(MouseControl &shown, const Surroundings &around, QWidget *parent)
+    : QWidget(parent), ControlView(shown, around), control(shown) {
+  setMouseTracking(true);
+}
+
+MouseEvent PointerView::AtPointer(Qt::MouseButtons buttons) const {
+  return {.button = ButtonsOf(buttons),
+          .shift = ShiftStateOf(modifiers),
+          .x = static_cast<float>(Scale().Twips(pointer.x())),
+          .y = static_cast<float>(Scale().Twips(pointer.y()))};
+}
+
+void PointerView::Follow(const QMouseEvent &event) {
+  pointer = event.position();
+  modifiers = event.modifiers();
+}
+
+void PointerView::Press(const QMouseEvent &event) {
+  held |= event.button();
+  wasPressedOnce = true;
+  update();
+  Enter([&] { control.UserMouseDown(AtPointer(event.button())); });
+}
+
+// A release that can't be told now is made up for when the box has gone.
+void PointerView::Release(Qt::MouseButton button) {
+  if (!CanEnter())
+    return;
+  held &= ~Qt::MouseButtons(button);
+  update();
+  control.UserMouseUp(AtPointer(button));
+}
+
+void PointerView::ReleaseAllBut(Qt::MouseButtons buttons) {
+  for (const Qt::MouseButton each : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+    if (held.testFlag(each) && !buttons.testFlag(each))
+      Release(each);
+}
+
+void PointerView::BoxHasGone() { ReleaseAllBut(QGuiApplication::mouseButtons()); }
+
+void PointerView::mousePressEvent(QMouseEvent *event) {
+  Follow(*event);
+  Press(*event);
+}
+
+// A fast press on what wasn't pressed before is no double click, even if it follows another press.
+void PointerView::mouseDoubleClickEvent(QMouseEvent *event) {
+  Follow(*event);
+  const bool isLeft = event->button() == Qt::LeftButton;
+  if (!isLeft || !std::exchange(wasPressedOnce, false) || !DoubleClicked()) {
+    Press(*event);
+    return;
+  }
+  held |= Qt::LeftButton;
+}
+
+void PointerView::mouseMoveEvent(QMouseEvent *event) {
+  ReleaseAllBut(event->buttons());
+  Follow(*event);
+  Enter([&] { control.UserMouseMove(AtPointer(event->buttons())); });
+}
+
+void PointerView::mouseReleaseEvent(QMouseEvent *event) {
+  if (!held.testFlag(event->button()))
+    return;
+  const bool endsClick = wasPressedOnce && event->button() == Qt::LeftButton;
+  Follow(*event);
+  Release(event->button());
+  if (endsClick && rect().contains(event->pos()))
+    Clicked();
+}
+
+void PointerView::hideEvent(QHideEvent *event) {
+  QWidget::hideEvent(event);
+  ReleaseAllBut(Qt::NoButton);
+  wasPressedOnce = false;
+}
+
+void PointerView::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange && !isEnabled())
+    ReleaseAllBut(Qt::NoButton);
+}
+
+ImageView::ImageView(Image &shown, const Surroundings &around, QWidget *parent)
+    : PointerView(shown, around, parent), image(shown) {}
+
+void ImageView::Clicked() {
+  Enter([this] { image.UserClick(); });
+}
+
+bool ImageView::DoubleClicked() {
+  Enter([this] { image.UserDblClick(); });
+  return true;
+}
+
+void ImageView::paintEvent(QPaintEvent * /*event*/) {
+  QPainter painter(this);
+  if (!isEnabled())
+    painter.setOpacity(0.35);
+  // Of what is really drawn on: a screen, or a picture of another scale.
+  const double scaleOfDevice = painter.deviceTransform().m11();
+  painter.drawPixmap(0, 0, Pictures().Draw(image.Picture(), size(), scaleOfDevice));
+}
+
+NoteKeyView::NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent)
+    : PointerView(shown, around, parent), key(shown) {}
+
+void NoteKeyView::SetScale(const Tessoro::Scale &newScale) {
+  ControlView::SetScale(newScale);
+  setFont(Look::Font(TextSize::Control, newScale));
+}
+
+void NoteKeyView::paintEvent(QPaintEvent * /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double radius = Look::CornerRadius * Scale().zoom;
+  const QRectF body = QRectF(rect()).adjusted(0.5, -radius, -0.5, -0.5); // square at the top
+  QLinearGradient ivory(body.topLeft(), body.bottomLeft());
+  ivory.setColorAt(0, IsHeld() ? QColor(222, 214, 190) : QColor(250, 247, 236));
+  ivory.setColorAt(1, IsHeld() ? QColor(240, 234, 214) : QColor(255, 255, 252));
+  painter.setPen(QColor(110, 96, 52));
+  painter.setBrush(ivory);
+  painter.drawRoundedRect(body, radius, radius);
+  painter.drawLine(QPointF(0.5, 0.5), QPointF(width() - 0.5, 0.5));
+  painter.setPen(Look::Ink());
+  painter.drawText(QRectF(rect()).adjusted(0, 0, 0, -Scale().Pixels(45)),
+                   Qt::AlignHCenter | Qt::AlignBottom, WithoutAccessKey(FromModel(key.Caption())));
+}
+
+} // namespace Tessoro

@@ -1,0 +1,70 @@
+#include "face/qt/Program.hpp"
+
+#include "face/qt/Accessibility.hpp"
+#include "face/qt/FormStyle.hpp"
+#include "face/qt/Look.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLocale>
+#include <QStandardPaths>
+
+#include <filesystem>
+
+namespace Tessoro {
+
+namespace {
+
+char DecimalSign() {
+  const std::string sign = ToModel(QLocale::system().decimalPoint());
+  return sign.size() == 1 ? sign.front() : '.';
+}
+
+std::string TextFromQt(const QString &path) {
+  return TextFromPath(std::filesystem::path(path.toStdU16String()));
+}
+
+} // namespace
+
+void DressApplication() {
+  QApplication::setStyle(new FormStyle);
+  QApplication::setPalette(Look::Windows());
+  QApplication::setPalette(Look::Menus(), "QMenu");
+  QApplication::setLayoutDirection(Qt::LeftToRight); // places are fixed
+  QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tessoro.svg")));
+  QGuiApplication::setDesktopFileName(QStringLiteral("tessoro"));
+  DescribeViewsToScreenReaders();
+}
+
+std::string ProgramPath() {
+  const QString own = QCoreApplication::applicationDirPath();
+  if (QFileInfo(own).isWritable())
+    return TextFromQt(own);
+  const QString ofUser =
+      QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+          .filePath(QStringLiteral("Tessoro"));
+  QDir().mkpath(ofUser); // where that fails, the editor tells as it writes its settings
+  return TextFromQt(ofUser);
+}
+
+Program::Program(MidiService &midi, const std::string &programPath)
+    : editor({.midi = midi,
+              .screen = screen,
+              .clock = clock,
+              .files = files,
+              .random = random,
+              .programPath = programPath,
+              .decimalSign = DecimalSign()}) {}
+
+int Program::Run() {
+  editor.Start();
+  if (screen.ExitStatus())
+    return *screen.ExitStatus(); // over before the event loop began
+  return QCoreApplication::exec();
+}
+
+} // namespace Tessoro

@@ -1,0 +1,73 @@
+#include "face/qt/TextBoxView.hpp"
+
+#include "face/qt/Look.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace Tessoro {
+
+TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent)
+    : QLineEdit(parent), ControlView(shown, around), box(shown) {
+  setPalette(Look::Field(box.BackColor()));
+  if (box.MaxLength() != 0)
+    setMaxLength(static_cast<int>(box.MaxLength()));
+  connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
+}
+
+void TextBoxView::SetScale(const Tessoro::Scale &newScale) {
+  ControlView::SetScale(newScale);
+  setFont(Look::Font(TextSize::Control, newScale));
+}
+
+// Writing takes the cursor to the end and forgets what could be undone, so equal texts aren't
+// written.
+void TextBoxView::ShowContent() {
+  const QString shown = FromModel(box.Text());
+  if (shown != text())
+    setText(shown);
+}
+
+void TextBoxView::Edited(const QString &edited) {
+  const std::string told = TakeEdit(*this, FromModel(box.Text()), edited);
+  Enter([&] { box.UserEdit(told); });
+  ShowContent();
+}
+
+void TextBoxView::keyPressEvent(QKeyEvent *event) {
+  constexpr int enter = 13;
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    Enter([this] { box.UserKeyPress(enter); });
+  QLineEdit::keyPressEvent(event);
+}
+
+void TextBoxView::mouseDoubleClickEvent(QMouseEvent *event) {
+  QLineEdit::mouseDoubleClickEvent(event);
+  isSecondClick = true;
+  if (event->button() == Qt::LeftButton)
+    Enter([this] { box.UserDblClick(); });
+}
+
+void TextBoxView::mouseReleaseEvent(QMouseEvent *event) {
+  QLineEdit::mouseReleaseEvent(event);
+  const bool endsFirstClick = !std::exchange(isSecondClick, false);
+  if (endsFirstClick && event->button() == Qt::LeftButton && rect().contains(event->pos()))
+    Enter([this] { box.UserClick(); });
+}
+
+std::string TakeEdit(QLineEdit &field, const QString &before, const QString &edited) {
+  const QString line = InOneLine(before, edited);
+  std::string told = ToModel(line);
+  const QString tellable = FromModel(told);
+  if (tellable != edited) {
+    const auto cursor = std::min<qsizetype>(field.cursorPosition(), line.size());
+    const qsizetype tellableCursor = FromModel(ToModel(line.first(cursor))).size();
+    field.setText(tellable);
+    field.setCursorPosition(static_cast<int>(tellableCursor));
+  }
+  return told;
+}
+
+} // namespace Tessoro

@@ -1,0 +1,36 @@
+// A box with one line of text.
+#pragma once
+
+#include "face/qt/ControlView.hpp"
+#include "surface/TextBox.hpp"
+
+#include <QLineEdit>
+
+namespace Tessoro {
+
+class TextBoxView : public QLineEdit, public ControlView {
+public:
+  TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent);
+
+  QWidget &Widget() override { return *this; }
+  void SetScale(const Tessoro::Scale &newScale) override;
+
+protected:
+  void ShowContent() override;
+
+  void keyPressEvent(QKeyEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
+  void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+  void Edited(const QString &edited);
+
+  TextBox &box;
+  bool isSecondClick = false;
+};
+
+// Tells what a user's edit has made of the text of a field, and leaves in the field what can be
+// told: one line, in characters that the model has. The cursor stays where it was.
+std::string TakeEdit(QLineEdit &field, const QString &before, const QString &edited);
+
+} // namespace Tessoro

@@ -1,0 +1,101 @@
+// Software instruments on a JACK server, as the tests plug and play them.
+#pragma once
+
+#include <RtMidi.h>
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace Tessoro::Tests {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+using Bytes = std::vector<std::uint8_t>;
+
+struct Arrival {
+  Clock::time_point time;
+  Bytes bytes;
+};
+
+// JACK's library tells its clients of each change a few cycles later, and crashes now and then if a
+// client forgets its port meanwhile.
+inline void LetTheNewsPass() { std::this_thread::sleep_for(60ms); }
+
+// An instrument that writes down what it gets.
+class Synth {
+public:
+  explicit Synth(const std::string &client) : port(RtMidi::UNIX_JACK, client) {
+    port.ignoreTypes(false, false, false);
+    port.setCallback(&Synth::Take, this);
+    port.openVirtualPort("in");
+  }
+
+  ~Synth() { LetTheNewsPass(); }
+  Synth(const Synth &) = delete;
+  Synth &operator=(const Synth &) = delete;
+
+  std::vector<Arrival> Arrivals() {
+    const std::lock_guard lock(mutex);
+    return arrivals;
+  }
+
+  std::vector<Bytes> Messages() {
+    std::vector<Bytes> messages;
+    for (const Arrival &each : Arrivals()) {
+      messages.push_back(each.bytes);
+    }
+    return messages;
+  }
+
+  std::size_t Count() {
+    const std::lock_guard lock(mutex);
+    return arrivals.size();
+  }
+
+private:
+  static void Take(double /*time*/, Bytes *bytes, void *self) {
+    auto *synth = static_cast<Synth *>(self);
+    const std::lock_guard lock(synth->mutex);
+    synth->arrivals.push_back({Clock::now(), *bytes});
+  }
+
+  std::mutex mutex;
+  std::vector<Arrival> arrivals;
+  RtMidiIn port;
+};
+
+// A keyboard that the test plays.
+class Keyboard {
+public:
+  explicit Keyboard(const std::string &client) : port(RtMidi::UNIX_JACK, client) {
+    port.openVirtualPort("out");
+  }
+
+  ~Keyboard() { LetTheNewsPass(); }
+  Keyboard(const Keyboard &) = delete;
+  Keyboard &operator=(const Keyboard &) = delete;
+
+  void Play(const Bytes &bytes) { port.sendMessage(&bytes); }
+
+private:
+  RtMidiOut port;
+};
+
+inline bool Eventually(const std::function<bool()> &condition, Clock::duration patience = 20s) {
+  const auto deadline = Clock::now() + patience;
+  while (!condition()) {
+    if (Clock::now() > deadline) {
+      return false;
+    }
+    std::this_thread::sleep_for(1ms);
+  }
+  return true;
+}
+
+} // namespace Tessoro::Tests

@@ -1,0 +1,68 @@
+#include "tests/face/FaceTest.hpp"
+
+#include <QAccessible>
+
+namespace Tessoro::Tests {
+namespace {
+
+class AccessibilityTest : public FaceTest {
+protected:
+  QAccessibleInterface &Description(const Control &control) {
+    return *QAccessible::queryAccessibleInterface(&WidgetOf(control));
+  }
+  std::string NameOf(const Control &control) {
+    return Description(control).text(QAccessible::Name).toStdString();
+  }
+};
+
+TEST_F(AccessibilityTest, EveryControlOfEveryFormHasAName) {
+  app.F_Tessoro.InitPanelParams(); // some forms need a sound to load
+  for (Form *form : app.Forms())
+    if (form != &app.F_Midi)
+      form->Show();
+  app.F_Midi.Show(); // closes the ports that others send to as they load
+  for (const Form *form : app.Forms())
+    for (const Control *control : form->Controls()) {
+      const auto *label = dynamic_cast<const Label *>(control);
+      const bool isNameless =
+          control->Type() == ControlType::Frame || (label != nullptr && label->Caption().empty());
+      if (WindowOf(*form).WidgetOf(*control) != nullptr && !isNameless) {
+        EXPECT_NE(NameOf(*control), "") << form->Name() << "." << control->Name();
+      }
+    }
+}
+
+TEST_F(AccessibilityTest, ANameIsWhatTheControlSaysOrItsCaption) {
+  EXPECT_EQ(NameOf(bench.Box), "Number");
+  EXPECT_EQ(NameOf(bench.Push), "Push");
+  EXPECT_EQ(NameOf(bench.Tag), "label");
+  EXPECT_EQ(NameOf(app.F_Tessoro.TextF1_cutoff), "Filter 1 cutoff");
+}
+
+TEST_F(AccessibilityTest, RolesTellWhatAControlIs) {
+  EXPECT_EQ(Description(bench.Box).role(), QAccessible::EditableText);
+  EXPECT_EQ(Description(bench.Combo).role(), QAccessible::ComboBox);
+  EXPECT_EQ(Description(bench.Check).role(), QAccessible::CheckBox);
+  EXPECT_EQ(Description(bench.HBar).role(), QAccessible::ScrollBar);
+  EXPECT_EQ(Description(bench.Knob).role(), QAccessible::Graphic);
+  EXPECT_EQ(Description(bench.Key).role(), QAccessible::Button);
+}
+
+TEST_F(AccessibilityTest, ABarTellsTheValueOfItsControl) {
+  bench.VBar.SetValue(100);
+  QAccessibleValueInterface *value = Description(bench.VBar).valueInterface();
+  ASSERT_NE(value, nullptr);
+  EXPECT_EQ(value->currentValue().toInt(), 100);
+  EXPECT_EQ(value->minimumValue().toInt(), 0);
+  EXPECT_EQ(value->maximumValue().toInt(), 127);
+  value->setCurrentValue(400);
+  EXPECT_EQ(bench.VBar.Value(), 127);
+}
+
+TEST_F(AccessibilityTest, ToolTipsAreThoseOfTheControls) {
+  EXPECT_EQ(WidgetOf(bench.Box).toolTip(), QStringLiteral("A number"));
+  EXPECT_EQ(WidgetOf(bench.Push).toolTip(), QString());
+}
+
+} // namespace
+} // namespace Tessoro::Tests

@@ -1,0 +1,259 @@
+#include "tests/face/FaceTest.hpp"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+namespace Tessoro::Tests {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class FormWindowTest : public FaceTest {
+protected:
+  using FaceTest::FaceTest;
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(WindowOf(bench).windowHandle(), key, modifiers);
+  }
+
+  // As the window system does: the modifiers are those before the event.
+  static void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers before,
+                   bool repeats = false) {
+    QKeyEvent event(type, key, before, QString(), repeats);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+
+  // The ground lies below the controls, in whichever place they leave free.
+  QWidget *Ground() { return WidgetOf(bench.Box).parentWidget(); }
+  static constexpr QPoint FreePlace{464, 275};
+};
+
+TEST_F(FormWindowTest, AFormIsAsLargeAsItsDesignAtFifteenTwipsAPixel) {
+  EXPECT_EQ(Ground()->size(), QSize(467, 280));
+  EXPECT_EQ(WidgetOf(bench.Combo).geometry(), QRect(10, 80, 100, 21));
+}
+
+TEST_F(FormWindowTest, AZoomIsATransformOfAllPlacesAndLetters) {
+  FormWindow &window = WindowOf(bench);
+  const int letters = WidgetOf(bench.Box).font().pixelSize();
+  window.SetZoom(1.5);
+  EXPECT_EQ(Ground()->size(), QSize(700, 420));
+  EXPECT_EQ(WidgetOf(bench.Combo).geometry(), QRect(15, 120, 150, 32));
+  EXPECT_EQ(WidgetOf(bench.Box).font().pixelSize(), qRound(letters * 1.5));
+  window.SetZoom(1);
+  EXPECT_EQ(Ground()->size(), QSize(467, 280));
+}
+
+TEST_F(FormWindowTest, ACaptionFollowsTheModelWithWhateverItHolds) {
+  bench.SetCaption("Tessoro v1.3.1 - B\xE4r.tss *");
+  EXPECT_EQ(WindowOf(bench).windowTitle(), QString::fromUtf8("Tessoro v1.3.1 - Bär.tss *"));
+}
+
+TEST_F(FormWindowTest, AClickOnTheGroundIsTheFormsOwn) {
+  QTest::mouseClick(Ground(), Qt::LeftButton, Qt::NoModifier, FreePlace);
+  EXPECT_THAT(Heard(), ElementsAre("Form Click"));
+}
+
+TEST_F(FormWindowTest, AFormMayUnloadInItsOwnHandlerAndComeBackInIt) {
+  QPointer<FormWindow> window = &WindowOf(bench);
+  bench.onFormClick = [this] {
+    bench.Unload();
+    bench.Show();
+  };
+  QTest::mouseClick(Ground(), Qt::LeftButton, Qt::NoModifier, FreePlace);
+  LetPass(1);
+  EXPECT_TRUE(window.isNull());
+  EXPECT_TRUE(WindowOf(bench).isVisible());
+}
+
+TEST_F(FormWindowTest, ACommandMayUnloadItsForm) {
+  QPointer<FormWindow> window = &WindowOf(bench);
+  bench.Push.onClick = [this] { bench.Unload(); };
+  QTest::mouseClick(&WidgetOf(bench.Push), Qt::LeftButton);
+  EXPECT_EQ(screen.WindowOf(bench), nullptr);
+  LetPass(1);
+  EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(FormWindowTest, TheCloseControlUnloadsTheForm) {
+  EXPECT_TRUE(WindowOf(bench).close());
+  EXPECT_FALSE(bench.IsLoaded());
+}
+
+TEST_F(FormWindowTest, AFormThatIsLoadedAgainBeginsAnew) {
+  bench.Box.SetText("12");
+  bench.Menu_Disabled.SetEnabled(true);
+  bench.Unload();
+  bench.Show();
+  EXPECT_EQ(WidgetOf<QLineEdit>(bench.Box).text(), QStringLiteral("?"));
+}
+
+TEST_F(FormWindowTest, ClosingTheMainWindowClosesThePortsAndWritesTheSettings) {
+  WindowOf(app.F_Tessoro).close();
+  EXPECT_FALSE(app.F_Tessoro.IsLoaded());
+  EXPECT_FALSE(app.HasEnded()) << "the workbench is still there";
+  EXPECT_THAT(midi.calls, Contains("midiOutClose " + std::to_string(TestMidi::OutHandle)));
+  EXPECT_EQ(files.contents["/editor/Tessoro.ini"].substr(0, 16), "\"Tessoro v1.3.1\"");
+  WindowOf(bench).close();
+  EXPECT_TRUE(app.HasEnded());
+  EXPECT_EQ(screen.ExitStatus(), 0);
+}
+
+TEST_F(FormWindowTest, QuitLeavesNoWindow) {
+  app.Quit();
+  EXPECT_EQ(screen.ExitStatus(), 0);
+  EXPECT_EQ(screen.WindowOf(bench), nullptr);
+}
+
+TEST_F(FormWindowTest, TheFormPreviewsTheKeysOfItsControls) {
+  Focus(bench.Name);
+  Press(Qt::Key_A);
+  EXPECT_THAT(Heard(), ElementsAre("KeyDown 65 0", "KeyPress 97", "Name Change a", "KeyUp 65 0"));
+}
+
+TEST_F(FormWindowTest, ShiftComesAndGoesWhereverTheFocusLies) {
+  for (const Control *control : std::initializer_list<Control *>{
+           &bench.Box, &bench.Combo, &bench.Check, &bench.Push, &bench.HBar}) {
+    Focus(*control);
+    Heard();
+    Send(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+    Send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
+    EXPECT_THAT(Heard(), ElementsAre("KeyDown 16 1", "KeyUp 16 0")) << control->Name();
+  }
+}
+
+TEST_F(FormWindowTest, AHeldKeyGoesDownAgainAndAgainAndComesUpOnce) {
+  Focus(bench.Push);
+  for (const bool repeats : {false, true, true}) {
+    Send(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier, repeats);
+    Send(QEvent::KeyRelease, Qt::Key_F5, Qt::NoModifier, true);
+  }
+  Send(QEvent::KeyRelease, Qt::Key_F5, Qt::NoModifier);
+  EXPECT_THAT(Heard(),
+              ElementsAre("KeyDown 116 0", "KeyDown 116 0", "KeyDown 116 0", "KeyUp 116 0"));
+}
+
+TEST_F(FormWindowTest, ShiftOnTheMainFormSetsTheFlagOfTheKnobs) {
+  WindowOf(app.F_Tessoro).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(app.F_Tessoro)));
+  Send(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+  EXPECT_EQ(app.Module1.ShiftHeld, -1);
+  Send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
+  EXPECT_EQ(app.Module1.ShiftHeld, 0);
+}
+
+class FormWithoutPreviewTest : public FormWindowTest {
+protected:
+  FormWithoutPreviewTest() : FormWindowTest(false) {}
+};
+
+TEST_F(FormWithoutPreviewTest, TheKeysOfAControlAreItsOwn) {
+  Focus(bench.Name);
+  Press(Qt::Key_A);
+  Press(Qt::Key_F5); // which the box has no use for
+  EXPECT_THAT(Heard(), ElementsAre("Name Change a"));
+}
+
+TEST_F(FormWithoutPreviewTest, WithoutAFocusTheKeysAreTheForms) {
+  WidgetOf(bench.Name).setFocus();
+  WidgetOf(bench.Name).clearFocus();
+  Press(Qt::Key_Return);
+  EXPECT_THAT(Heard(), ElementsAre("KeyDown 13 0", "KeyPress 13", "KeyUp 13 0"));
+}
+
+TEST_F(FormWindowTest, AShortcutClicksItsEntry) {
+  Press(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_THAT(Heard(), Contains("Menu_Order Click"));
+}
+
+TEST_F(FormWindowTest, AShortcutGoesBeforeTheEditingKeysOfABox) {
+  Focus(bench.Box);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_THAT(Heard(), Contains("Menu_All Click"));
+}
+
+TEST_F(FormWindowTest, TheShortcutOfADisabledOrHiddenEntryDoesNothing) {
+  Press(Qt::Key_D, Qt::ControlModifier);
+  Press(Qt::Key_F11);
+  const std::vector<std::string> heard = Heard();
+  EXPECT_THAT(heard, Not(Contains("Menu_Disabled Click")));
+  EXPECT_THAT(heard, Not(Contains("Menu_Hidden Click")));
+  bench.Menu_Disabled.SetEnabled(true);
+  Press(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_THAT(Heard(), Contains("Menu_Disabled Click"));
+}
+
+TEST_F(FormWindowTest, TheMenuStandsAsItWasDesigned) {
+  const auto *bar = WindowOf(bench).findChild<QMenuBar *>();
+  ASSERT_EQ(bar->actions().size(), 2);
+  const QList<QAction *> entries = bar->actions().front()->menu()->actions();
+  ASSERT_EQ(entries.size(), 5);
+  EXPECT_EQ(entries[0]->text(), QStringLiteral("&Order"));
+  EXPECT_EQ(entries[0]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+  EXPECT_TRUE(entries[1]->isSeparator());
+  EXPECT_FALSE(entries[2]->isEnabled());
+  EXPECT_FALSE(entries[3]->isVisible());
+  entries[0]->trigger();
+  bar->actions().back()->trigger();
+  EXPECT_THAT(Heard(), ElementsAre("Menu_Order Click", "Menu_Alone Click"));
+}
+
+TEST_F(FormWindowTest, AMenuIsOpenedByItsAccessKey) {
+  Press(Qt::Key_O, Qt::AltModifier);
+  const auto *menu = WindowOf(bench).findChild<QMenuBar *>()->actions().front()->menu();
+  EXPECT_TRUE(menu->isVisible());
+}
+
+TEST_F(FormWindowTest, TabGoesThroughTheControlsInTheOrderOfTheirDeclaration) {
+  Focus(bench.Box);
+  for (const Control *next : std::initializer_list<Control *>{
+           &bench.Name, &bench.Combo, &bench.Check, &bench.Push, &bench.HBar, &bench.VBar,
+           &bench.Drive, &bench.Dir, &bench.File, &bench.Box}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(WidgetOf(*next).hasFocus()) << next->Name();
+  }
+}
+
+TEST_F(FormWindowTest, TheFormForThePortsStaysOnTop) {
+  app.F_Midi.Show();
+  EXPECT_TRUE(WindowOf(app.F_Midi).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  EXPECT_TRUE(WindowOf(app.F_Midi).isVisible());
+  EXPECT_EQ(WidgetOf<QComboBox>(app.F_Midi.AuswahlMIDIPort).currentText(), QStringLiteral("Synth"));
+}
+
+TEST_F(FormWindowTest, AHiddenControlIsHidden) {
+  bench.Knob.SetVisible(false);
+  EXPECT_FALSE(WidgetOf(bench.Knob).isVisible());
+}
+
+TEST_F(FormWindowTest, ALabelFollowsItsWidth) {
+  bench.Tag.SetWidth(1480);
+  EXPECT_EQ(WidgetOf(bench.Tag).width(), 99);
+}
+
+TEST_F(FormWindowTest, ALineIsDrawnWhereItsEndsAreAndGoneFromWhereTheyWere) {
+  const auto isInk = [this](QPoint place) {
+    const QColor color = Ground()->grab().toImage().pixelColor(place);
+    return color.blue() > 100 && color.red() < 100;
+  };
+  bench.Slope.SetX1(3000);
+  bench.Slope.SetX2(4200);
+  bench.Slope.SetY1(3600);
+  bench.Slope.SetY2(3600);
+  EXPECT_TRUE(isInk({240, 241}) || isInk({240, 239}) || isInk({240, 240}));
+  bench.Slope.SetY1(3750);
+  bench.Slope.SetY2(3750);
+  EXPECT_FALSE(isInk({240, 240}));
+  EXPECT_TRUE(isInk({240, 250}) || isInk({240, 249}));
+}
+
+} // namespace
+} // namespace Tessoro::Tests

@@ -1,0 +1,138 @@
+#include "tests/support/TestMidi.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <span>
+
+namespace Tessoro {
+
+namespace {
+
+std::string Bytes(std::span<const std::uint8_t> bytes) {
+  std::string text;
+  for (const std::uint8_t byte : bytes) {
+    std::array<char, 4> digits{};
+    std::snprintf(digits.data(), digits.size(), "%02X", byte);
+    text.append(text.empty() ? "" : " ").append(digits.data());
+  }
+  return text;
+}
+
+std::string Word(std::uint32_t word) {
+  std::array<char, 9> digits{};
+  std::snprintf(digits.data(), digits.size(), "%08X", word);
+  return digits.data();
+}
+
+void PutText(std::string &buffer, const std::string &text) {
+  buffer.replace(0, std::min(buffer.size(), text.size() + 1), text + '\0');
+}
+
+} // namespace
+
+MidiResult TestMidi::ResultOf(const std::string &operation) const {
+  const auto found = results.find(operation);
+  return found == results.end() ? MidiResultCode::Success : found->second;
+}
+
+MidiResult TestMidi::Note(const std::string &operation, const std::string &rest) {
+  calls.push_back(rest.empty() ? operation : operation + " " + rest);
+  if (onCall)
+    onCall();
+  return ResultOf(operation);
+}
+
+MidiResult TestMidi::midiOutOpen(MidiHandle &handle, std::int32_t device, std::uint32_t,
+                                 std::uint32_t, std::uint32_t) {
+  const MidiResult result = Note("midiOutOpen", std::to_string(device));
+  if (result == MidiResultCode::Success)
+    handle = OutHandle;
+  return result;
+}
+
+MidiResult TestMidi::midiOutClose(MidiHandle handle) {
+  return Note("midiOutClose", std::to_string(handle));
+}
+
+MidiResult TestMidi::midiOutShortMsg(MidiHandle, std::uint32_t message) {
+  messages.push_back(Word(message));
+  return Note("midiOutShortMsg", Word(message));
+}
+
+MidiResult TestMidi::midiOutPrepareHeader(MidiHandle, MIDIHDR &, std::uint32_t size) {
+  return Note("midiOutPrepareHeader", std::to_string(size));
+}
+
+MidiResult TestMidi::midiOutLongMsg(MidiHandle, MIDIHDR &header, std::uint32_t) {
+  const std::string bytes = Bytes({header.lpData, header.dwBufferLength});
+  messages.push_back(bytes);
+  return Note("midiOutLongMsg", bytes);
+}
+
+MidiResult TestMidi::midiOutUnprepareHeader(MidiHandle, MIDIHDR &header, std::uint32_t size) {
+  return Note("midiOutUnprepareHeader",
+              std::to_string(size) + " flags " + std::to_string(header.dwFlags));
+}
+
+std::uint32_t TestMidi::midiOutGetNumDevs() {
+  return static_cast<std::uint32_t>(outDevices.size());
+}
+
+MidiResult TestMidi::midiOutGetDevCapsA(std::int32_t device, MIDIOUTCAPS &record, std::uint32_t) {
+  if (device == MidiMapper) {
+    record = MapperCapabilities();
+    return MidiResultCode::Success;
+  }
+  record = {.wMid = 1, .wPid = 1, .vDriverVersion = 0x0500, .wTechnology = 1};
+  PutDeviceName(record.szPname, outDevices.at(static_cast<std::size_t>(device)));
+  return ResultOf("midiOutGetDevCapsA");
+}
+
+MidiResult TestMidi::midiOutGetErrorTextA(MidiResult code, std::string &buffer, std::uint32_t) {
+  PutText(buffer, "OUT error " + std::to_string(code));
+  return MidiResultCode::Success;
+}
+
+MidiResult TestMidi::midiInOpen(MidiHandle &handle, std::int32_t device, std::uint32_t,
+                                std::uint32_t, std::uint32_t) {
+  const MidiResult result = Note("midiInOpen", std::to_string(device));
+  if (result == MidiResultCode::Success)
+    handle = InHandle;
+  return result;
+}
+
+MidiResult TestMidi::midiInClose(MidiHandle handle) {
+  return Note("midiInClose", std::to_string(handle));
+}
+
+MidiResult TestMidi::midiInStart(MidiHandle handle) {
+  return Note("midiInStart", std::to_string(handle));
+}
+
+MidiResult TestMidi::midiInStop(MidiHandle handle) {
+  return Note("midiInStop", std::to_string(handle));
+}
+
+std::uint32_t TestMidi::midiInGetNumDevs() { return static_cast<std::uint32_t>(inDevices.size()); }
+
+MidiResult TestMidi::midiInGetDevCapsA(std::int32_t device, MIDIINCAPS &record, std::uint32_t) {
+  record = {};
+  PutDeviceName(record.szPname, inDevices.at(static_cast<std::size_t>(device)));
+  return ResultOf("midiInGetDevCapsA");
+}
+
+MidiResult TestMidi::midiInGetErrorTextA(MidiResult code, std::string &buffer, std::uint32_t) {
+  PutText(buffer, "IN error " + std::to_string(code));
+  return MidiResultCode::Success;
+}
+
+MidiResult TestMidi::midiConnect(MidiHandle in, MidiHandle out) {
+  return Note("midiConnect", std::to_string(in) + " " + std::to_string(out));
+}
+
+MidiResult TestMidi::midiDisconnect(MidiHandle in, MidiHandle out) {
+  return Note("midiDisconnect", std::to_string(in) + " " + std::to_string(out));
+}
+
+} // namespace Tessoro

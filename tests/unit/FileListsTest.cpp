@@ -1,0 +1,142 @@
+#include "surface/Controls.hpp"
+#include "surface/Form.hpp"
+#include "tests/support/TestRun.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace Tessoro {
+namespace {
+
+using testing::ElementsAre;
+
+class FileForm : public Form {
+public:
+  explicit FileForm(Application &app) : Form(app, "FileForm", {}) {}
+
+  DriveListBox Drive1{*this, "Drive1", {0, 0, 900, 300}};
+  DirListBox Dir1{*this, "Dir1", {0, 0, 900, 900}};
+  FileListBox File1{*this, "File1", {0, 0, 900, 900}, {.pattern = "*.tss"}};
+};
+
+class FileListsTest : public testing::Test {
+protected:
+  FileListsTest() {
+    run.files.drives = {"/", "/media/stick"};
+    run.files.folders = {{"/", {"home", "media"}}, {"/home", {"ann"}},  {"/home/ann", {"a", "b"}},
+                         {"/home/ann/a", {}},      {"/home/ann/b", {}}, {"/media/stick", {}}};
+    run.files.contents = {{"/home/ann/bass.tss", ""},
+                          {"/home/ann/lead.tss", ""},
+                          {"/home/ann/notes.txt", ""},
+                          {"/home/ann/a/pad.tss", ""}};
+    run.files.workingDirectory = "/home/ann";
+    form.Show();
+  }
+
+  template <typename Act> static int FailureOf(Act &&act) {
+    try {
+      act();
+    } catch (const Failure &failure) {
+      return failure.Number();
+    }
+    return 0;
+  }
+
+  TestRun run;
+  FileForm form{run.app};
+};
+
+TEST_F(FileListsTest, AllBeginInTheWorkingDirectory) {
+  EXPECT_EQ(form.Drive1.Drive(), "/");
+  EXPECT_EQ(form.Dir1.Path(), "/home/ann");
+  EXPECT_EQ(form.File1.Path(), "/home/ann");
+  EXPECT_EQ(form.File1.FileName(), "");
+}
+
+TEST_F(FileListsTest, AFolderListShowsTheWayDownAndTheSubfolders) {
+  EXPECT_THAT(form.Dir1.List(),
+              ElementsAre("/", "/home", "/home/ann", "/home/ann/a", "/home/ann/b"));
+  EXPECT_EQ(form.Dir1.AncestorCount(), 3U);
+}
+
+TEST_F(FileListsTest, AFileListShowsWhatFitsItsPattern) {
+  EXPECT_THAT(form.File1.List(), ElementsAre("bass.tss", "lead.tss"));
+}
+
+TEST_F(FileListsTest, AnotherPathRaisesChange) {
+  int changes = 0;
+  form.Dir1.onChange = [&changes] { ++changes; };
+  form.Dir1.SetPath("/home/ann/a");
+  form.Dir1.SetPath("/home/ann/a/");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(form.Dir1.Path(), "/home/ann/a");
+}
+
+TEST_F(FileListsTest, APathThatIsNoFolderFailsAndChangesNothing) {
+  EXPECT_EQ(FailureOf([this] { form.Dir1.SetPath("/nowhere"); }), 76);
+  EXPECT_EQ(FailureOf([this] { form.Dir1.SetPath(""); }), 76);
+  EXPECT_EQ(FailureOf([this] { form.File1.SetPath("/nowhere"); }), 76);
+  EXPECT_EQ(form.Dir1.Path(), "/home/ann");
+  EXPECT_EQ(form.File1.Path(), "/home/ann");
+}
+
+TEST_F(FileListsTest, AFileListForgetsItsFileWithItsPath) {
+  form.File1.UserChoose("lead.tss");
+  form.File1.SetPath("/home/ann/a");
+  EXPECT_EQ(form.File1.FileName(), "");
+  EXPECT_THAT(form.File1.List(), ElementsAre("pad.tss"));
+}
+
+TEST_F(FileListsTest, ARefreshForgetsAFileThatHasGone) {
+  form.File1.UserChoose("lead.tss");
+  form.File1.Refresh();
+  EXPECT_EQ(form.File1.FileName(), "lead.tss");
+  run.files.contents.erase("/home/ann/lead.tss");
+  form.File1.Refresh();
+  EXPECT_EQ(form.File1.FileName(), "");
+  EXPECT_THAT(form.File1.List(), ElementsAre("bass.tss"));
+}
+
+TEST_F(FileListsTest, PickingAFileRaisesClickAlsoOnceMore) {
+  int clicks = 0;
+  form.File1.onClick = [&clicks] { ++clicks; };
+  form.File1.UserChoose("lead.tss");
+  form.File1.UserChoose("lead.tss");
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(form.File1.FileName(), "lead.tss");
+}
+
+TEST_F(FileListsTest, ADriveTakesAnyPathThatBeginsWithIt) {
+  int changes = 0;
+  form.Drive1.onChange = [&changes] { ++changes; };
+  form.Drive1.SetDrive("/media/stick/sounds");
+  EXPECT_EQ(form.Drive1.Drive(), "/media/stick");
+  form.Drive1.SetDrive("/home");
+  EXPECT_EQ(form.Drive1.Drive(), "/");
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(FileListsTest, TheSameDriveAndTheEmptyTextRaiseNothing) {
+  int changes = 0;
+  form.Drive1.onChange = [&changes] { ++changes; };
+  form.Drive1.SetDrive("/");
+  form.Drive1.SetDrive("");
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(FileListsTest, ADriveThatIsNotThereFails) {
+  EXPECT_EQ(FailureOf([this] { form.Drive1.SetDrive("c:"); }), 68);
+  EXPECT_EQ(form.Drive1.Drive(), "/");
+}
+
+TEST_F(FileListsTest, TheUserOpensFoldersAndDrives) {
+  form.Dir1.UserChoose("/home");
+  EXPECT_EQ(form.Dir1.Path(), "/home");
+  form.Drive1.UserChoose("/media/stick");
+  EXPECT_EQ(form.Drive1.Drive(), "/media/stick");
+  EXPECT_TRUE(form.Drive1.HasDrive("/media/stick"));
+  EXPECT_FALSE(form.Drive1.HasDrive("/media"));
+}
+
+} // namespace
+} // namespace Tessoro
