@@ -1,0 +1,94 @@
+// Measures the editor side by side with the least that the same work costs without it.
+#include "bench/Benches.hpp"
+#include "bench/Medians.hpp"
+#include "bench/Table.hpp"
+#include "bench/WindowStart.hpp"
+#include "tests/endtoend/JackServer.hpp"
+
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace {
+
+constexpr double NanosecondsInSecond = 1e9;
+constexpr double MicrosecondsInSecond = 1e6;
+constexpr double MillisecondsInSecond = 1e3;
+
+struct Effort {
+  int benchmarkRepetitions;
+  int windowStarts;
+};
+
+// Repetitions of all benchmarks by turns, so that a slow moment of the machine meets all of them.
+Tessoro::Medians RunBenchmarks(int repetitions) {
+  std::string interleave = "--benchmark_enable_random_interleaving=true";
+  std::string times = "--benchmark_repetitions=" + std::to_string(repetitions);
+  std::string shortest = "--benchmark_min_time=0.05";
+  std::string program = "tessoro-bench";
+  char *arguments[] = {program.data(), interleave.data(), times.data(), shortest.data()};
+  int count = std::size(arguments);
+  benchmark::Initialize(&count, arguments);
+  Tessoro::Medians medians;
+  benchmark::RunSpecifiedBenchmarks(&medians);
+  return medians;
+}
+
+void Measure(const Effort &effort) {
+  using namespace Tessoro;
+  const WindowStarts starts = MeasureWindowStarts(effort.windowStarts);
+
+  const Tests::JackServer jack;
+  Benches::RegisterChange();
+  Benches::RegisterFiles();
+  Benches::RegisterInit();
+  Benches::RegisterKnob();
+  Benches::RegisterWire();
+  const Medians medians = RunBenchmarks(effort.benchmarkRepetitions);
+  if (!medians.AllWentThrough())
+    throw std::runtime_error("a benchmark failed");
+
+  const auto nanoseconds = [&medians](const char *name) {
+    return medians.Time(name) * NanosecondsInSecond;
+  };
+  const double bare = nanoseconds(Benches::BareMessageOverJack);
+  PrintTable({
+      {"one change, text to a null service", nanoseconds(Benches::ChangeAtNullService), "ns", 1000},
+      {"  its heap allocations",
+       medians.Counter(Benches::ChangeAtNullService, Benches::Allocations), "", 0},
+      {"a whole init to a null service",
+       medians.Time(Benches::InitAtNullService) * MicrosecondsInSecond, "us", 200},
+      {"  its heap allocations for a message",
+       medians.Counter(Benches::InitAtNullService, Benches::Allocations), "", 0.02},
+      {"one move of a knob, drag of 1000 moves",
+       nanoseconds(Benches::DragAtNullService) / Benches::MovesInDrag, "ns", 1000},
+      {"  its heap allocations", medians.Counter(Benches::DragAtNullService, Benches::Allocations),
+       "", 0},
+      {"one message to the service, JACK", nanoseconds(Benches::MessageThroughJack), "ns", 1.1,
+       "bare sendMessage", bare},
+      {"one change, text to return, JACK", nanoseconds(Benches::ChangeThroughJack), "ns", 1.1,
+       "bare sendMessage", bare},
+      {"load of a sound file", medians.Time(Benches::LoadOfSound) * MicrosecondsInSecond, "us", 20,
+       "bare read", medians.Time(Benches::BareReadOfSound) * MicrosecondsInSecond},
+      {"save of a sound file", medians.Time(Benches::SaveOfSound) * MicrosecondsInSecond, "us", 5,
+       "bare write", medians.Time(Benches::BareWriteOfSound) * MicrosecondsInSecond},
+      {"start to first frame", starts.editor.seconds * MillisecondsInSecond, "ms", 1.5,
+       "empty window", starts.emptyWindow.seconds * MillisecondsInSecond},
+      {"peak memory", starts.editor.mebibytes, "MiB", 1.35, "empty window",
+       starts.emptyWindow.mebibytes},
+  });
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+  const bool isShort = argc > 1 && std::string_view(argv[1]) == "--short";
+  try {
+    Measure(isShort ? Effort{3, 3} : Effort{15, 21});
+  } catch (const std::exception &failure) {
+    std::fprintf(stderr, "Nothing to tell: %s.\n", failure.what());
+    return 1;
+  }
+  return 0;
+}
