@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,10 +18,17 @@ namespace Tessoro {
 
 namespace {
 
+// Of its own, since tests run side by side.
+std::filesystem::path FreshDirectory() {
+  std::string name = (std::filesystem::temp_directory_path() / "tessoro-command-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr)
+    throw std::runtime_error("no fresh directory");
+  return name;
+}
+
 class HeadlessCommandLine : public testing::Test {
 public:
   HeadlessCommandLine() {
-    std::filesystem::create_directories(directory);
     std::ofstream(directory / "Tessoro.ini") << "\"\"\n\"\",\"\"\n3,3\n-1,0\n0,0\n\"?\"\n\"No\"\n";
     std::ofstream(directory / "one.script") << "get Module1.SoundFileName\n";
   }
@@ -35,8 +44,7 @@ protected:
 
   std::string Named(const char *file) const { return (directory / file).string(); }
 
-  const std::filesystem::path directory =
-      std::filesystem::temp_directory_path() / "tessoro-command-line";
+  const std::filesystem::path directory = FreshDirectory();
   std::istringstream input;
   std::ostringstream output;
   std::ostringstream errors;

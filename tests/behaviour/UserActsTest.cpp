@@ -11,6 +11,8 @@
 #include <sstream>
 #include <string>
 
+#include <unistd.h>
+
 namespace Tessoro {
 
 namespace {
@@ -166,7 +168,8 @@ TEST_F(UserActs, AKeyWithACharacterIsAlsoPressed) {
 }
 
 TEST_F(UserActs, DrivesFoldersAndFilesAreChosenByName) {
-  const std::filesystem::path folder = std::filesystem::temp_directory_path() / "tessoro-choose";
+  const std::filesystem::path folder =
+      std::filesystem::temp_directory_path() / ("tessoro-choose-" + std::to_string(getpid()));
   std::filesystem::create_directories(folder);
   std::ofstream(folder / "bell.tss") << "x";
   std::ofstream(folder / "bell.txt") << "x";

@@ -28,6 +28,7 @@ using namespace std::chrono_literals;
   for (const std::string &entry : environment)
     setenv(entry.substr(0, entry.find('=')).c_str(), entry.substr(entry.find('=') + 1).c_str(), 1);
   std::vector<char *> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string &argument : command)
     arguments.push_back(const_cast<char *>(argument.c_str()));
   arguments.push_back(nullptr);

@@ -7,7 +7,6 @@
 #include "service/builtin/BuiltinSource.hpp"
 #include "service/builtin/MessageText.hpp"
 
-#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
@@ -36,7 +35,7 @@ protected:
   }
 
   void Pick(ComboBox &list, int index) {
-    auto *view = ViewOf<QComboBox>(list);
+    auto *view = ViewOf(list);
     view->setFocus();
     for (int i = 0; i <= index; ++i)
       QTest::keyClick(view, Qt::Key_Down);
