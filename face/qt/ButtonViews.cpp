@@ -18,11 +18,6 @@ CommandButtonView::CommandButtonView(CommandButton &shown, const Surroundings &a
   connect(this, &QPushButton::clicked, this, [this] { Enter([this] { button.UserClick(); }); });
 }
 
-void CommandButtonView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
-
 void CommandButtonView::ShowContent() { setText(FromModel(button.Caption())); }
 
 void CommandButtonView::keyPressEvent(QKeyEvent *event) {
@@ -34,11 +29,6 @@ void CommandButtonView::keyPressEvent(QKeyEvent *event) {
 
 CheckBoxView::CheckBoxView(CheckBox &shown, const Surroundings &around, QWidget *parent)
     : QCheckBox(parent), ControlView(shown, around), box(shown) {}
-
-void CheckBoxView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
 
 void CheckBoxView::ShowContent() {
   setText(FromModel(box.Caption()));

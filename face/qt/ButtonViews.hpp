@@ -14,7 +14,6 @@ public:
   CommandButtonView(CommandButton &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void SetScale(const Tessoro::Scale &newScale) override;
   void LetGo() override { setDown(false); }
 
 protected:
@@ -32,7 +31,6 @@ public:
   CheckBoxView(CheckBox &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void SetScale(const Tessoro::Scale &newScale) override;
   void LetGo() override { setDown(false); }
 
 protected:

@@ -1,94 +1,120 @@
 #include "face/qt/ComboBoxView.hpp"
 
+#include "face/qt/ItemList.hpp"
 #include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
 #include "face/qt/TextBoxView.hpp"
 
-#include <QAbstractItemView>
-#include <QLineEdit>
-#include <QSignalBlocker>
+#include <QKeyEvent>
+#include <QPainter>
 #include <QWheelEvent>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace Tessoro {
 
-namespace {
-
-constexpr int MostVisibleItems = 32;
-
-} // namespace
-
 ComboBoxView::ComboBoxView(ComboBox &shown, const Surroundings &around, QWidget *parent)
-    : QComboBox(parent), ControlView(shown, around), combo(shown) {
-  setEditable(true);
-  setInsertPolicy(QComboBox::NoInsert);
-  setCompleter(nullptr);
-  setMaxVisibleItems(MostVisibleItems);
-  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  setFocusPolicy(Qt::StrongFocus); // not by the wheel
-  setPalette(Look::Field(combo.BackColor()));
-  ShowItems();
-  connect(lineEdit(), &QLineEdit::textEdited, this,
-          [this](const QString &edited) { Edited(edited); });
-  connect(this, &QComboBox::activated, this, [this](int index) { Picked(index); });
-}
-
-void ComboBoxView::Show(Property property) {
-  if (property == Property::Items)
-    ShowItems();
-  ControlView::Show(property);
+    : QLineEdit(parent), ControlView(shown, around), combo(shown) {
+  setMouseTracking(true); // the pointer's shape tells the field from its arrow
+  if (combo.BackColor() != Colors::Navy)
+    setPalette(Look::Field(combo.BackColor()));
+  connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
 }
 
 void ComboBoxView::SetScale(const Tessoro::Scale &newScale) {
   ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
+  setTextMargins(0, 0, ArrowArea().width(), 0);
 }
 
-void ComboBoxView::ShowItems() {
-  const QSignalBlocker silence(this);
-  const auto &items = combo.List();
-  for (int i = count(); i < static_cast<int>(items.size()); ++i)
-    addItem(FromModel(items[static_cast<std::size_t>(i)]));
-}
-
-// The index is written first: it takes its item's text along.
+// Writing takes the cursor to the end and forgets what could be undone, so equal texts aren't
+// written.
 void ComboBoxView::ShowContent() {
-  const QSignalBlocker silence(this);
   const QString shown = FromModel(combo.Text());
-  const int cursor = lineEdit()->cursorPosition();
-  const bool staysAsTyped = lineEdit()->text() == shown;
-  if (currentIndex() != combo.ListIndex())
-    setCurrentIndex(combo.ListIndex());
-  if (lineEdit()->text() != shown)
-    setEditText(shown);
-  if (staysAsTyped && lineEdit()->cursorPosition() != cursor)
-    lineEdit()->setCursorPosition(cursor);
+  if (shown != text())
+    setText(shown);
 }
 
 void ComboBoxView::Edited(const QString &edited) {
-  const std::string told = TakeEdit(*lineEdit(), FromModel(combo.Text()), edited);
+  const std::string told = TakeEdit(*this, FromModel(combo.Text()), edited);
   Enter([&] { combo.UserEdit(told); });
   ShowContent();
 }
 
-void ComboBoxView::Picked(int index) {
+void ComboBoxView::Pick(int index) {
   Enter([&] { combo.UserSelect(index); });
   ShowContent();
 }
 
-void ComboBoxView::showPopup() {
-  view()->setPalette(Look::Field(Colors::Navy));
-  view()->setFont(font());
-  const int frame = 2 * view()->frameWidth();
-  view()->setMinimumWidth(view()->sizeHintForColumn(0) + frame);
-  QComboBox::showPopup();
+void ComboBoxView::Step(int direction) {
+  const int next = combo.ListIndex() + direction;
+  if (combo.HasItem(next))
+    Pick(next);
+}
+
+ItemList *ComboBoxView::OpenedList() const {
+  return list != nullptr && list->isVisible() ? list : nullptr;
+}
+
+void ComboBoxView::OpenList() {
+  if (OpenedList() != nullptr || combo.List().empty())
+    return;
+  list = new ItemList(*this);
+  for (const std::string &item : combo.List())
+    list->addItem(FromModel(item));
+  list->setCurrentRow(std::max(combo.ListIndex(), 0));
+  connect(list, &ItemList::Picked, this, [this](int index) { Pick(index); });
+  list->Open();
+}
+
+QRect ComboBoxView::ArrowArea() const {
+  const int side = std::min(height() * 9 / 10, width() / 3);
+  return {width() - side, 0, side, height()};
+}
+
+void ComboBoxView::keyPressEvent(QKeyEvent *event) {
+  const bool isAlone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool isUp = event->key() == Qt::Key_Up;
+  const bool isDown = event->key() == Qt::Key_Down;
+  if (isAlone && (isUp || isDown))
+    Step(isUp ? -1 : 1);
+  else if (event->key() == Qt::Key_F4 ||
+           (event->modifiers().testFlag(Qt::AltModifier) && (isUp || isDown)))
+    OpenList();
+  else
+    QLineEdit::keyPressEvent(event);
+}
+
+void ComboBoxView::mouseMoveEvent(QMouseEvent *event) {
+  if (event->buttons() == Qt::NoButton)
+    setCursor(ArrowArea().contains(event->pos()) ? Qt::ArrowCursor : Qt::IBeamCursor);
+  QLineEdit::mouseMoveEvent(event);
+}
+
+void ComboBoxView::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && ArrowArea().contains(event->pos()))
+    OpenList();
+  else
+    QLineEdit::mousePressEvent(event);
+}
+
+void ComboBoxView::paintEvent(QPaintEvent *event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  Look::DrawArrow(painter, ArrowArea(), Look::Direction::Down,
+                  palette().color(QPalette::Text)); // of the state that the field is in
 }
 
 // Without the focus the wheel passes by: scrolling over a list must not send a value.
 void ComboBoxView::wheelEvent(QWheelEvent *event) {
-  if (hasFocus())
-    QComboBox::wheelEvent(event);
-  else
+  if (!hasFocus()) {
     event->ignore();
+    return;
+  }
+  wheelTurn += event->angleDelta().y();
+  for (; std::abs(wheelTurn) >= QWheelEvent::DefaultDeltasPerStep;
+       wheelTurn -= QWheelEvent::DefaultDeltasPerStep * (wheelTurn > 0 ? 1 : -1))
+    Step(wheelTurn > 0 ? -1 : 1);
 }
 
 } // namespace Tessoro

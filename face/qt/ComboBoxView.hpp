@@ -4,30 +4,46 @@
 #include "face/qt/ControlView.hpp"
 #include "surface/ComboBox.hpp"
 
-#include <QComboBox>
+#include <QLineEdit>
+#include <QPointer>
 
 namespace Tessoro {
 
-class ComboBoxView : public QComboBox, public ControlView {
+class ItemList;
+
+// A field that brings up its list when it is asked to. The toolkit's own makes a list for each
+// field beforehand and moves its selection by itself.
+class ComboBoxView : public QLineEdit, public ControlView {
 public:
   ComboBoxView(ComboBox &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void Show(Property property) override;
   void SetScale(const Tessoro::Scale &newScale) override;
-  void showPopup() override;
+
+  // Below the field. Does nothing while it is up.
+  void OpenList();
+  // Null while it isn't up.
+  ItemList *OpenedList() const;
 
 protected:
   void ShowContent() override;
 
+  void keyPressEvent(QKeyEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
 
 private:
-  void ShowItems();
+  QRect ArrowArea() const;
   void Edited(const QString &edited);
-  void Picked(int index);
+  void Pick(int index);
+  // To the next item, or the one before; ends where the list ends.
+  void Step(int direction);
 
   ComboBox &combo;
+  QPointer<ItemList> list;
+  int wheelTurn = 0;
 };
 
 } // namespace Tessoro

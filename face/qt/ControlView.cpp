@@ -11,13 +11,13 @@ ControlView::ControlView(Control &shown, const Surroundings &around)
 
 void ControlView::ShowAll() {
   QWidget &widget = Widget();
-  widget.setObjectName(QString::fromStdString(control.Name()));
   if (!control.ToolTipText().empty())
     widget.setToolTip(FromModel(control.ToolTipText()));
   if (!control.Says().empty())
     widget.setAccessibleName(FromModel(control.Says()));
-  Show(Property::Enabled);
-  Show(Property::Visible);
+  widget.setEnabled(control.Enabled());
+  if (!control.Visible())
+    widget.hide(); // the others come with their form
   ShowContent();
 }
 

@@ -30,7 +30,7 @@ public:
   virtual QWidget &Widget() = 0;
   // The property has changed.
   virtual void Show(Property property);
-  // Shows the whole control for the first time.
+  // Shows the whole control for the first time, in its place. Call behind SetScale.
   void ShowAll();
   // Follows a new zoom.
   virtual void SetScale(const Scale &newScale);

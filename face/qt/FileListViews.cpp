@@ -42,11 +42,6 @@ DriveListView::DriveListView(DriveListBox &shown, const Surroundings &around, QW
   });
 }
 
-void DriveListView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
-
 void DriveListView::ShowContent() {
   const QSignalBlocker silence(this);
   clear();
@@ -63,14 +58,7 @@ void DriveListView::wheelEvent(QWheelEvent *event) {
 }
 
 DirListView::DirListView(DirListBox &shown, const Surroundings &around, QWidget *parent)
-    : QListWidget(parent), ControlView(shown, around), folders(shown) {
-  setPalette(Look::Field(Colors::Navy));
-}
-
-void DirListView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
+    : QListWidget(parent), ControlView(shown, around), folders(shown) {}
 
 // Ancestors step in from the root; the subfolders stand one step behind the open folder.
 void DirListView::ShowContent() {
@@ -109,14 +97,7 @@ void DirListView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 FileListView::FileListView(FileListBox &shown, const Surroundings &around, QWidget *parent)
-    : QListWidget(parent), ControlView(shown, around), files(shown) {
-  setPalette(Look::Field(Colors::Navy));
-}
-
-void FileListView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
+    : QListWidget(parent), ControlView(shown, around), files(shown) {}
 
 void FileListView::Show(Property property) {
   if (property == Property::FileName)

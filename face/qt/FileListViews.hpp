@@ -14,7 +14,6 @@ public:
   DriveListView(DriveListBox &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void SetScale(const Tessoro::Scale &newScale) override;
 
 protected:
   void ShowContent() override;
@@ -31,7 +30,6 @@ public:
   DirListView(DirListBox &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void SetScale(const Tessoro::Scale &newScale) override;
 
 protected:
   void ShowContent() override;
@@ -51,7 +49,6 @@ public:
 
   QWidget &Widget() override { return *this; }
   void Show(Property property) override;
-  void SetScale(const Tessoro::Scale &newScale) override;
 
 protected:
   void ShowContent() override;

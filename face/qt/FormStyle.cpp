@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QIcon>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -15,11 +14,6 @@
 namespace Tessoro {
 
 namespace {
-
-// The stroke of arrows at a side of the square that they stand in.
-constexpr double StrokePart = 1.0 / 9;
-
-enum class Direction : std::uint8_t { Left, Right, Up, Down };
 
 bool Has(const QStyleOption &option, QStyle::StateFlag state) {
   return option.state.testFlag(state);
@@ -34,29 +28,6 @@ double ZoomOf(const QStyleOption &option) {
 // Between a rounded edge and the text.
 int TextMargin(const QStyleOption &option) { return qRound(2 * ZoomOf(option)); }
 
-bool IsPartOfCombo(const QWidget *widget) {
-  return widget != nullptr && qobject_cast<const QComboBox *>(widget->parentWidget()) != nullptr;
-}
-
-void DrawArrow(QPainter &painter, const QRectF &area, Direction direction, const QColor &color) {
-  const double side = std::min(area.width(), area.height());
-  const QPointF middle = area.center();
-  const double reach = side * 0.2;
-  const double depth = side * 0.1;
-  const bool lies = direction == Direction::Left || direction == Direction::Right;
-  const double sign = direction == Direction::Left || direction == Direction::Up ? -1 : 1;
-  const auto at = [&](double along, double across) {
-    return lies ? middle + QPointF(sign * along, across) : middle + QPointF(across, sign * along);
-  };
-  QPainterPath path(at(-depth, -reach));
-  path.lineTo(at(depth, 0));
-  path.lineTo(at(-depth, reach));
-  painter.setPen(
-      QPen(color, std::max(1.2, side * StrokePart), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawPath(path);
-}
-
 } // namespace
 
 FormStyle::FormStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -65,8 +36,7 @@ void FormStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
                               QPainter *painter, const QWidget *widget) const {
   switch (element) {
   case PE_PanelLineEdit:
-    if (!IsPartOfCombo(widget)) // else the list has drawn the field
-      DrawField(*option, *painter);
+    DrawField(*option, *painter);
     return;
   case PE_PanelButtonCommand:
     DrawButton(*option, *painter);
@@ -154,8 +124,8 @@ void FormStyle::DrawCombo(const QStyleOptionComplex &option, QPainter &painter,
   DrawField(option, painter);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawArrow(painter, subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
-            Direction::Down, option.palette.color(QPalette::Text));
+  Look::DrawArrow(painter, subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
+                  Look::Direction::Down, option.palette.color(QPalette::Text));
   painter.restore();
 }
 
@@ -177,10 +147,12 @@ void FormStyle::DrawBar(const QStyleOptionSlider &option, QPainter &painter,
   painter.setBrush(option.palette.color(QPalette::Midlight));
   const double radius = (lies ? option.rect.height() : option.rect.width()) / 6.0;
   painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-  DrawArrow(painter, rectOf(SC_ScrollBarSubLine), lies ? Direction::Left : Direction::Up,
-            isPressed(SC_ScrollBarSubLine) ? Look::FrameColor() : ink);
-  DrawArrow(painter, rectOf(SC_ScrollBarAddLine), lies ? Direction::Right : Direction::Down,
-            isPressed(SC_ScrollBarAddLine) ? Look::FrameColor() : ink);
+  Look::DrawArrow(painter, rectOf(SC_ScrollBarSubLine),
+                  lies ? Look::Direction::Left : Look::Direction::Up,
+                  isPressed(SC_ScrollBarSubLine) ? Look::FrameColor() : ink);
+  Look::DrawArrow(painter, rectOf(SC_ScrollBarAddLine),
+                  lies ? Look::Direction::Right : Look::Direction::Down,
+                  isPressed(SC_ScrollBarAddLine) ? Look::FrameColor() : ink);
   if (option.maximum > option.minimum) {
     const bool isHeld = isPressed(SC_ScrollBarSlider);
     painter.setPen(Qt::NoPen);
@@ -203,8 +175,7 @@ QRect FormStyle::subControlRect(ComplexControl control, const QStyleOptionComple
   case SC_ComboBoxArrow:
     return {area.right() - arrow + 1, area.top(), arrow, area.height()};
   case SC_ComboBoxEditField: {
-    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    const int margin = combo != nullptr && combo->editable ? 1 : TextMargin(*option) + 2;
+    const int margin = TextMargin(*option) + 2; // the field itself adds two to other texts
     return area.adjusted(margin, 1, -arrow, -1);
   }
   default:
@@ -249,6 +220,8 @@ QIcon FormStyle::standardIcon(StandardPixmap picture, const QStyleOption *option
     return QIcon(QStringLiteral(":/pictures/warning.svg"));
   case SP_MessageBoxInformation:
     return QIcon(QStringLiteral(":/pictures/information.svg"));
+  case SP_ToolBarHorizontalExtensionButton:
+    return {}; // no menu bar here is too long for its window
   default:
     return QProxyStyle::standardIcon(picture, option, widget);
   }

@@ -19,20 +19,19 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around)
   if (FormMenu::IsNeededBy(form))
     menu = new FormMenu(form, surroundings.gate, this);
   MakeControls();
-  ShowCaption();
   SetZoom(1);
+  ShowCaption();
+  for (const auto &[control, view] : views) {
+    view->ShowAll();
+    view->Widget().installEventFilter(this);
+  }
 }
 
 // In the order of their declaration: that is the order of Tab, and the later lies on top.
 void FormWindow::MakeControls() {
-  for (Control *control : form.Controls()) {
-    ControlView *view = MakeView(*control, surroundings, ground);
-    if (view == nullptr)
-      continue;
-    views[control] = view;
-    view->ShowAll();
-    view->Widget().installEventFilter(this);
-  }
+  for (Control *control : form.Controls())
+    if (ControlView *view = MakeView(*control, surroundings, ground))
+      views[control] = view;
 }
 
 QWidget *FormWindow::WidgetOf(const Control &control) const {

@@ -28,6 +28,7 @@ Ground::Ground(Form &shown, const Gate &entrance, QWidget *parent)
 
 void Ground::SetScale(const Scale &newScale) {
   scale = newScale;
+  setFont(Look::Font(TextSize::Control, scale)); // that of all controls that have none of their own
   resize(scale.RoundedPixels(form.Design().width), scale.RoundedPixels(form.Design().height));
   update();
 }

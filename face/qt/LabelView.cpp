@@ -6,13 +6,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace Tessoro {
 
 namespace {
 
 // Narrower than this, letters don't read well.
-constexpr int NarrowestStretch = 75;
-constexpr int StretchStep = 5;
+constexpr double NarrowestStretch = 0.75;
 // Keeps the texts of labels that touch apart.
 constexpr double MarginInTwips = 15;
 
@@ -27,18 +28,9 @@ Qt::Alignment AlignmentOf(LabelAlign align) {
   }
 }
 
-QFont FontOf(LabelStyle style, const Scale &scale) {
-  switch (style) {
-  case LabelStyle::Heading:
-    return Look::Font(TextSize::Heading, scale, QFont::Bold);
-  case LabelStyle::Title:
-    return Look::Font(TextSize::Title, scale, QFont::Bold);
-  default:
-    return Look::Font(TextSize::Control, scale);
-  }
+bool IsHeading(LabelStyle style) {
+  return style == LabelStyle::Heading || style == LabelStyle::Title;
 }
-
-bool IsInk(LabelStyle style) { return style == LabelStyle::Heading || style == LabelStyle::Title; }
 
 } // namespace
 
@@ -46,7 +38,7 @@ LabelView::LabelView(Label &shown, const Surroundings &around, QWidget *parent)
     : QLabel(parent), ControlView(shown, around), label(shown) {
   setTextFormat(Qt::PlainText);
   setAlignment(AlignmentOf(label.Align()) | Qt::AlignVCenter);
-  if (IsInk(label.Style())) {
+  if (IsHeading(label.Style())) {
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Look::Ink());
     setPalette(colors);
@@ -55,7 +47,9 @@ LabelView::LabelView(Label &shown, const Surroundings &around, QWidget *parent)
 
 void LabelView::SetScale(const Tessoro::Scale &newScale) {
   ControlView::SetScale(newScale);
-  setFont(FontOf(label.Style(), newScale));
+  if (IsHeading(label.Style()))
+    setFont(Look::Font(label.Style() == LabelStyle::Title ? TextSize::Title : TextSize::Heading,
+                       newScale, QFont::Bold));
 }
 
 Place LabelView::CurrentPlace() const {
@@ -103,14 +97,11 @@ void LabelView::paintEvent(QPaintEvent * /*event*/) {
 // A text that is too long in the font of this machine is set narrower rather than cut.
 void LabelView::DrawLine(QPainter &painter, const QRect &area) const {
   const int room = area.width() - Scale().RoundedPixels(2 * MarginInTwips);
-  QFont narrow = font();
-  for (int stretch = 100; stretch > NarrowestStretch; stretch -= StretchStep) {
-    if (painter.fontMetrics().horizontalAdvance(text()) <= room)
-      break;
-    narrow.setStretch(stretch - StretchStep);
-    painter.setFont(narrow);
-  }
-  painter.drawText(area, static_cast<int>(alignment()) | Qt::TextDontClip, text());
+  const double width = std::max(1, fontMetrics().horizontalAdvance(text()));
+  const double stretch = std::clamp(room / width, NarrowestStretch, 1.0);
+  painter.scale(stretch, 1);
+  const QRectF stretched(area.left() / stretch, area.top(), area.width() / stretch, area.height());
+  painter.drawText(stretched, static_cast<int>(alignment()) | Qt::TextDontClip, text());
 }
 
 FrameView::FrameView(Frame &shown, const Surroundings &around, QWidget *parent)

@@ -1,6 +1,7 @@
 #include "face/qt/Look.hpp"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -77,6 +78,29 @@ void DrawFocusRing(QPainter &painter, const QRectF &frame, double radius, const 
   painter.setPen(QPen(color, 1.5));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(frame.adjusted(1.75, 1.75, -1.75, -1.75), radius - 1, radius - 1);
+  painter.restore();
+}
+
+void DrawArrow(QPainter &painter, const QRectF &area, Direction direction, const QColor &color) {
+  constexpr double strokePart = 1.0 / 9; // of a side of the square that it stands in
+  const double side = std::min(area.width(), area.height());
+  const QPointF middle = area.center();
+  const double reach = side * 0.2;
+  const double depth = side * 0.1;
+  const bool lies = direction == Direction::Left || direction == Direction::Right;
+  const double sign = direction == Direction::Left || direction == Direction::Up ? -1 : 1;
+  const auto at = [&](double along, double across) {
+    return lies ? middle + QPointF(sign * along, across) : middle + QPointF(across, sign * along);
+  };
+  QPainterPath path(at(-depth, -reach));
+  path.lineTo(at(depth, 0));
+  path.lineTo(at(-depth, reach));
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(
+      QPen(color, std::max(1.2, side * strokePart), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPath(path);
   painter.restore();
 }
 

@@ -29,11 +29,15 @@ QColor FadedInk();
 // Sizes are pixels, so that the system's own font size can't break a fixed place.
 QFont Font(TextSize size, const Scale &scale, QFont::Weight weight = QFont::Normal);
 
-// The amber ground with black texts, and fields as below.
+// The amber ground with black texts, and navy fields as below.
 QPalette Windows();
 QPalette Menus();
 // Fields that show values: navy with amber texts, or blended into the ground.
 QPalette Field(Color back);
+
+enum class Direction : std::uint8_t { Left, Right, Up, Down };
+// In the middle of the area.
+void DrawArrow(QPainter &painter, const QRectF &area, Direction direction, const QColor &color);
 
 // A ring that says that the focus is here, just inside of the frame.
 void DrawFocusRing(QPainter &painter, const QRectF &frame, double radius, const QColor &color);

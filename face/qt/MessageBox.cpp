@@ -1,5 +1,6 @@
 #include "face/qt/MessageBox.hpp"
 
+#include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
 
 #include <QAbstractButton>
@@ -60,6 +61,7 @@ MsgBoxButton ShowMessageBox(QWidget *parent, const QString &text, int flags, con
   const ButtonSet buttons = ButtonsOf(flags);
   QMessageBox box(parent);
   box.setWindowTitle(title);
+  box.setFont(Look::Font(TextSize::Menu, {}));
   box.setTextFormat(Qt::PlainText);
   box.setText(WithLineBreaks(text));
   box.setIcon(IconOf(flags));

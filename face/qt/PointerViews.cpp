@@ -120,11 +120,6 @@ void ImageView::paintEvent(QPaintEvent * /*event*/) {
 NoteKeyView::NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent)
     : PointerView(shown, around, parent), key(shown) {}
 
-void NoteKeyView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
-}
-
 void NoteKeyView::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -62,8 +62,6 @@ class NoteKeyView : public PointerView {
 public:
   NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent);
 
-  void SetScale(const Tessoro::Scale &newScale) override;
-
 protected:
   void paintEvent(QPaintEvent *event) override;
 

@@ -27,15 +27,24 @@ std::string TextFromQt(const QString &path) {
   return TextFromPath(std::filesystem::path(path.toStdU16String()));
 }
 
+QIcon WindowIcon() {
+  PictureStore pictures;
+  QIcon icon;
+  for (const int side : {32, 64})
+    icon.addPixmap(pictures.Draw("tessoro", QSize(side, side), 1));
+  return icon;
+}
+
 } // namespace
 
 void DressApplication() {
   QApplication::setStyle(new FormStyle);
+  QApplication::setFont(Look::Font(TextSize::Control, {})); // before the system's own is loaded
   QApplication::setPalette(Look::Windows());
   QApplication::setPalette(Look::Menus(), "QMenu");
   QApplication::setLayoutDirection(Qt::LeftToRight); // places are fixed
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tessoro.svg")));
+  QApplication::setWindowIcon(WindowIcon());
   QGuiApplication::setDesktopFileName(QStringLiteral("tessoro"));
   DescribeViewsToScreenReaders();
 }

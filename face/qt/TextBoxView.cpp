@@ -11,15 +11,11 @@ namespace Tessoro {
 
 TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent)
     : QLineEdit(parent), ControlView(shown, around), box(shown) {
-  setPalette(Look::Field(box.BackColor()));
+  if (box.BackColor() != Colors::Navy)
+    setPalette(Look::Field(box.BackColor()));
   if (box.MaxLength() != 0)
     setMaxLength(static_cast<int>(box.MaxLength()));
   connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
-}
-
-void TextBoxView::SetScale(const Tessoro::Scale &newScale) {
-  ControlView::SetScale(newScale);
-  setFont(Look::Font(TextSize::Control, newScale));
 }
 
 // Writing takes the cursor to the end and forgets what could be undone, so equal texts aren't

@@ -13,7 +13,6 @@ public:
   TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void SetScale(const Tessoro::Scale &newScale) override;
 
 protected:
   void ShowContent() override;

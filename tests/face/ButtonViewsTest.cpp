@@ -8,7 +8,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ButtonViewsTest : public FaceTest {
 protected:

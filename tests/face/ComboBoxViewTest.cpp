@@ -1,8 +1,7 @@
 #include "face/qt/ComboBoxView.hpp"
+#include "face/qt/ItemList.hpp"
 #include "tests/face/FaceTest.hpp"
 
-#include <QAbstractItemView>
-#include <QLineEdit>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -16,7 +15,7 @@ class ComboBoxViewTest : public FaceTest {
 protected:
   void SetUp() override {
     FaceTest::SetUp();
-    combo = &WidgetOf<QComboBox>(bench.Combo);
+    field = &WidgetOf<ComboBoxView>(bench.Combo);
     Focus(bench.Combo);
   }
 
@@ -26,85 +25,113 @@ protected:
     return heard;
   }
 
-  void TurnWheelDown() {
-    QWheelEvent turn(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+  void TurnWheelDown() const {
+    QWheelEvent turn(QPointF(5, 5), field->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(combo, &turn);
+    QCoreApplication::sendEvent(field, &turn);
   }
 
-  void PickInList(int row) {
-    combo->showPopup();
-    QAbstractItemView *view = combo->view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
-    // The list takes a release only after the pointer has been over it for a while.
-    const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
-    QTest::mouseMove(view->viewport(), place);
-    LetPass(500);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QPoint Arrow() const { return {field->width() - 5, field->height() / 2}; }
+
+  ItemList &OpenList() const {
+    QTest::mouseClick(field, Qt::LeftButton, Qt::NoModifier, Arrow());
+    return *field->OpenedList();
   }
 
-  QComboBox *combo = nullptr;
+  static QPoint PlaceOf(ItemList &list, int row) {
+    return list.visualItemRect(list.item(row)).center();
+  }
+
+  ComboBoxView *field = nullptr;
 };
 
-TEST_F(ComboBoxViewTest, BeginsWithItsTextAndNoItem) {
-  EXPECT_EQ(combo->currentText(), QStringLiteral("?"));
-  EXPECT_EQ(combo->currentIndex(), -1);
-  EXPECT_EQ(combo->count(), 4);
-}
+TEST_F(ComboBoxViewTest, BeginsWithItsText) { EXPECT_EQ(field->text(), QStringLiteral("?")); }
 
 TEST_F(ComboBoxViewTest, AnArrowKeySelectsAtEachStep) {
-  QTest::keyClick(combo, Qt::Key_Down);
-  QTest::keyClick(combo, Qt::Key_Down);
-  QTest::keyClick(combo, Qt::Key_Up);
+  QTest::keyClick(field, Qt::Key_Down);
+  QTest::keyClick(field, Qt::Key_Down);
+  QTest::keyClick(field, Qt::Key_Up);
   EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Click 0", "Combo Click 1", "Combo Click 0"));
-  EXPECT_EQ(combo->currentText(), QStringLiteral("Pulse"));
+  EXPECT_EQ(field->text(), QStringLiteral("Pulse"));
+}
+
+TEST_F(ComboBoxViewTest, AnArrowKeyAtTheEndOfTheListIsNothing) {
+  QTest::keyClick(field, Qt::Key_Up);
+  bench.Combo.SetListIndex(3);
+  HeardOfCombo();
+  QTest::keyClick(field, Qt::Key_Down);
+  EXPECT_THAT(HeardOfCombo(), IsEmpty());
 }
 
 TEST_F(ComboBoxViewTest, AnItemThatIsPickedClicksAlsoWhenItWasSelected) {
-  PickInList(1);
-  PickInList(1);
+  for (int time = 0; time < 2; ++time) {
+    ItemList &list = OpenList();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(list, 1));
+    EXPECT_EQ(field->OpenedList(), nullptr);
+  }
   EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Click 1", "Combo Click 1"));
+  EXPECT_EQ(field->text(), QStringLiteral("Saw"));
+}
+
+TEST_F(ComboBoxViewTest, APressOnTheArrowMayBeDraggedToAnItem) {
+  QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, Arrow());
+  ItemList &list = *field->OpenedList();
+  QTest::mouseMove(list.viewport(), PlaceOf(list, 2));
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(list, 2));
+  EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Click 2"));
+}
+
+TEST_F(ComboBoxViewTest, AnOpenListIsWorkedByKeys) {
+  QTest::keyClick(field, Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(field->OpenedList()->currentRow(), 0);
+  QTest::keyClick(field->OpenedList(), Qt::Key_Down);
+  EXPECT_THAT(HeardOfCombo(), IsEmpty());
+  QTest::keyClick(field->OpenedList(), Qt::Key_Return);
+  EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Click 1"));
+  QTest::keyClick(field, Qt::Key_F4);
+  QTest::keyClick(field->OpenedList(), Qt::Key_Escape);
+  EXPECT_EQ(field->OpenedList(), nullptr);
+  EXPECT_THAT(HeardOfCombo(), IsEmpty());
+}
+
+TEST_F(ComboBoxViewTest, AnOpenListStandsBelowItsFieldWithAllItsItems) {
+  const ItemList &list = OpenList();
+  EXPECT_EQ(list.pos(), field->mapToGlobal(QPoint(0, field->height())));
+  EXPECT_GE(list.width(), field->width());
+  EXPECT_EQ(list.count(), 4);
+  EXPECT_GE(list.viewport()->height(), 4 * list.sizeHintForRow(0));
 }
 
 TEST_F(ComboBoxViewTest, TypingChangesAtEachKeyAndCompletesNothing) {
-  combo->lineEdit()->selectAll();
-  QTest::keyClicks(combo, QStringLiteral("Sa"));
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral("Sa"));
   EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Change S", "Combo Change Sa"));
-  EXPECT_EQ(combo->currentText(), QStringLiteral("Sa"));
-  EXPECT_EQ(combo->currentIndex(), -1);
+  EXPECT_EQ(field->text(), QStringLiteral("Sa"));
 }
 
 TEST_F(ComboBoxViewTest, ATypedItemIsSelectedWithoutAClickEvenWhenTheFocusLeaves) {
-  combo->lineEdit()->selectAll();
-  QTest::keyClicks(combo, QStringLiteral("Saw"));
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral("Saw"));
   Focus(bench.Box);
   EXPECT_THAT(HeardOfCombo(), ElementsAre("Combo Change S", "Combo Change Sa", "Combo Change Saw"));
   EXPECT_EQ(bench.Combo.ListIndex(), 1);
-  EXPECT_EQ(combo->currentIndex(), 1);
 }
 
 TEST_F(ComboBoxViewTest, CapitalsMatter) {
-  combo->lineEdit()->selectAll();
-  QTest::keyClicks(combo, QStringLiteral("saw"));
-  QTest::keyClick(combo, Qt::Key_Return);
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral("saw"));
+  QTest::keyClick(field, Qt::Key_Return);
   Focus(bench.Box);
   EXPECT_EQ(bench.Combo.ListIndex(), -1);
-  EXPECT_EQ(combo->currentText(), QStringLiteral("saw"));
+  EXPECT_EQ(field->text(), QStringLiteral("saw"));
 }
 
 TEST_F(ComboBoxViewTest, TypingThatLeavesTheListKeepsTheCursor) {
   bench.Combo.SetListIndex(1);
-  combo->lineEdit()->setCursorPosition(1);
-  QTest::keyClick(combo, Qt::Key_X);
-  EXPECT_EQ(combo->currentText(), QStringLiteral("Sxaw"));
-  EXPECT_EQ(combo->lineEdit()->cursorPosition(), 2);
-}
-
-TEST_F(ComboBoxViewTest, EnterAddsNoItem) {
-  combo->lineEdit()->selectAll();
-  QTest::keyClicks(combo, QStringLiteral("Noise"));
-  QTest::keyClick(combo, Qt::Key_Return);
-  EXPECT_EQ(combo->count(), 4);
+  field->setCursorPosition(1);
+  QTest::keyClick(field, Qt::Key_X);
+  EXPECT_EQ(field->text(), QStringLiteral("Sxaw"));
+  EXPECT_EQ(field->cursorPosition(), 2);
 }
 
 TEST_F(ComboBoxViewTest, TheWheelTurnsOnlyAListThatHasTheFocus) {
@@ -118,27 +145,40 @@ TEST_F(ComboBoxViewTest, TheWheelTurnsOnlyAListThatHasTheFocus) {
 
 TEST_F(ComboBoxViewTest, ShowsWhatCodeWrites) {
   bench.Combo.SetListIndex(2);
-  EXPECT_EQ(combo->currentText(), QStringLiteral("Sine"));
+  EXPECT_EQ(field->text(), QStringLiteral("Sine"));
   bench.Combo.SetText("none of them");
-  EXPECT_EQ(combo->currentText(), QStringLiteral("none of them"));
-  EXPECT_EQ(combo->currentIndex(), -1);
+  EXPECT_EQ(field->text(), QStringLiteral("none of them"));
   bench.Combo.SetListIndex(-1);
-  EXPECT_EQ(combo->currentText(), QString());
+  EXPECT_EQ(field->text(), QString());
   bench.Combo.AddItem("Noise");
-  EXPECT_EQ(combo->count(), 5);
-  EXPECT_EQ(combo->currentText(), QString());
+  EXPECT_EQ(field->text(), QString());
+  EXPECT_EQ(OpenList().count(), 5);
 }
 
 TEST_F(ComboBoxViewTest, AHandlerMayPutBackWhatWasPicked) {
   bench.Combo.onClick = [this] { bench.Combo.SetText("Pulse"); };
-  QTest::keyClick(combo, Qt::Key_Down);
-  QTest::keyClick(combo, Qt::Key_Down);
-  EXPECT_EQ(combo->currentIndex(), 0);
-  EXPECT_EQ(combo->currentText(), QStringLiteral("Pulse"));
+  QTest::keyClick(field, Qt::Key_Down);
+  QTest::keyClick(field, Qt::Key_Down);
+  EXPECT_EQ(field->text(), QStringLiteral("Pulse"));
+}
+
+TEST_F(ComboBoxViewTest, AMessageBoxClosesTheList) {
+  bench.Clockwork.onTimer = [this] {
+    bench.Clockwork.SetEnabled(false);
+    app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
+  };
+  WithNextBox([this](QMessageBox &box) {
+    EXPECT_EQ(field->OpenedList(), nullptr);
+    box.accept();
+  });
+  OpenList();
+  bench.Clockwork.SetEnabled(true);
+  LetPass(60);
+  EXPECT_EQ(field->OpenedList(), nullptr);
 }
 
 TEST_F(ComboBoxViewTest, AListMadeForNoUseBlendsIntoTheGround) {
-  const auto &faded = WidgetOf<QComboBox>(bench.Faded);
+  const auto &faded = WidgetOf<QLineEdit>(bench.Faded);
   EXPECT_FALSE(faded.isEnabled());
   EXPECT_EQ(faded.palette().color(QPalette::Disabled, QPalette::Base), QColor(255, 217, 54));
   EXPECT_EQ(faded.palette().color(QPalette::Disabled, QPalette::Text), QColor(255, 217, 54));

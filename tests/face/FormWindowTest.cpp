@@ -1,11 +1,11 @@
 #include "tests/face/FaceTest.hpp"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPaintEvent>
 #include <QTest>
 
 namespace Tessoro::Tests {
@@ -13,7 +13,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Not;
 
 class FormWindowTest : public FaceTest {
@@ -226,7 +225,7 @@ TEST_F(FormWindowTest, TheFormForThePortsStaysOnTop) {
   app.F_Midi.Show();
   EXPECT_TRUE(WindowOf(app.F_Midi).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_TRUE(WindowOf(app.F_Midi).isVisible());
-  EXPECT_EQ(WidgetOf<QComboBox>(app.F_Midi.AuswahlMIDIPort).currentText(), QStringLiteral("Synth"));
+  EXPECT_EQ(WidgetOf<QLineEdit>(app.F_Midi.AuswahlMIDIPort).text(), QStringLiteral("Synth"));
 }
 
 TEST_F(FormWindowTest, AHiddenControlIsHidden) {
@@ -253,6 +252,31 @@ TEST_F(FormWindowTest, ALineIsDrawnWhereItsEndsAreAndGoneFromWhereTheyWere) {
   bench.Slope.SetY2(3750);
   EXPECT_FALSE(isInk({240, 240}));
   EXPECT_TRUE(isInk({240, 250}) || isInk({240, 249}));
+}
+
+// Notes which part of a widget is painted.
+class PaintWatch : public QObject {
+public:
+  explicit PaintWatch(QWidget &widget) { widget.installEventFilter(this); }
+
+  bool eventFilter(QObject * /*watched*/, QEvent *event) override {
+    if (event->type() == QEvent::Paint)
+      painted += static_cast<QPaintEvent *>(event)->region();
+    return false;
+  }
+
+  QRegion painted;
+};
+
+TEST_F(FormWindowTest, ALineThatMovesPaintsNoMoreThanItsOldPlaceAndItsNewOne) {
+  LetPass(50);
+  PaintWatch watch(*Ground());
+  bench.Slope.SetY1(3600);
+  bench.Slope.SetY2(3600);
+  LetPass(50);
+  EXPECT_TRUE(watch.painted.contains(QPoint(230, 140))) << "where it was";
+  EXPECT_TRUE(watch.painted.contains(QPoint(230, 240))) << "where it is";
+  EXPECT_FALSE(watch.painted.contains(QPoint(10, 270)));
 }
 
 } // namespace

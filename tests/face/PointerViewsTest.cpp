@@ -8,7 +8,6 @@ namespace Tessoro::Tests {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class PointerViewsTest : public FaceTest {
 protected:

@@ -10,7 +10,6 @@ namespace Tessoro::Tests {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class TextBoxViewTest : public FaceTest {
 protected:
@@ -74,6 +73,14 @@ TEST_F(TextBoxViewTest, CharactersThatTheModelDoesNotHaveBecomeQuestionMarks) {
   EXPECT_EQ(bench.Box.Text(), "a?\xDF?");
   EXPECT_EQ(box->text(), QString::fromUtf8("a?ß?"));
   EXPECT_EQ(box->cursorPosition(), 4);
+}
+
+TEST_F(TextBoxViewTest, TheCursorStaysBehindACharacterThatWasReplaced) {
+  bench.Box.SetText("12");
+  box->setCursorPosition(1);
+  Paste(QString::fromUtf8("𝄞"));
+  EXPECT_EQ(box->text(), QStringLiteral("1?2"));
+  EXPECT_EQ(box->cursorPosition(), 2);
 }
 
 TEST_F(TextBoxViewTest, APasteIsOneChangeAndEndsAtItsFirstLineBreak) {
