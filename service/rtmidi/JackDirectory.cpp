@@ -14,6 +14,9 @@ using namespace std::chrono_literals;
 
 constexpr auto TimeForNews = 60ms;
 
+constexpr jack_nframes_t CyclesToConnect = 2;
+constexpr auto LongestConnecting = 500ms;
+
 constexpr const char *WatchClientName = "Tessoro watch";
 
 // The library's ring for a JACK port has 16 KiB, with some bytes for itself.
@@ -57,6 +60,18 @@ public:
     const std::lock_guard lock(changeMutex);
     std::this_thread::sleep_for(TimeForNews);
     change();
+  }
+
+  // The server takes a connection over between two cycles, and until then what is sent is lost.
+  void AwaitConnection() override {
+    const std::lock_guard lock(mutex);
+    if (client == nullptr)
+      return;
+    const jack_nframes_t begin = jack_last_frame_time(client);
+    const jack_nframes_t awaited = CyclesToConnect * jack_get_buffer_size(client);
+    const auto end = std::chrono::steady_clock::now() + LongestConnecting;
+    while (jack_last_frame_time(client) - begin < awaited && std::chrono::steady_clock::now() < end)
+      std::this_thread::sleep_for(1ms);
   }
 
   RtMidi::Api Api() const override { return RtMidi::UNIX_JACK; }

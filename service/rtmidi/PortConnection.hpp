@@ -49,6 +49,7 @@ MidiResult ConnectByName(PortDirectory &directory, PortDirection direction, cons
       if (errors.TakeAny() || !candidate->isPortOpen()) {
         return MidiResultCode::NotReady;
       }
+      directory.AwaitConnection();
       if (directory.Names(direction) == names) {
         port = std::move(candidate);
         connectedName = names[*place];

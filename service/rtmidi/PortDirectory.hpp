@@ -35,6 +35,10 @@ public:
   // Runs what opens or destroys a port of the library, one at a time.
   virtual void ChangePorts(const std::function<void()> &change) = 0;
 
+  // Returns when a connection that was made just now carries messages, or after a moment where the
+  // system doesn't get on.
+  virtual void AwaitConnection() = 0;
+
   // The system, as the library calls it.
   virtual RtMidi::Api Api() const = 0;
 

@@ -339,6 +339,17 @@ TEST_F(ServiceJackTest, AServerThatDiesMakesSendsFailUntilItIsBack) {
   EXPECT_TRUE(Eventually([&] { return synth->Count() == 1; }));
 }
 
+TEST_F(ServiceJackTest, WhatIsSentRightAfterOpeningArrives) {
+  constexpr int openings = 20;
+  Synth &synth = Plug(synths, "synth");
+  for (int i = 0; i < openings; ++i) {
+    const MidiHandle out = OpenOut("synth:in");
+    ASSERT_EQ(SendLong(*service, out, Change(i, 1)), 0U);
+    ASSERT_EQ(service->midiOutClose(out), 0U);
+  }
+  EXPECT_TRUE(Eventually([&] { return synth.Count() == openings; }, 1s));
+}
+
 TEST_F(ServiceJackTest, ClosingFirstSendsWhatWasAccepted) {
   constexpr int changes = 200;
   Synth &synth = Plug(synths, "synth");
