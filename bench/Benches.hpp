@@ -13,6 +13,8 @@ inline constexpr int MovesInDrag = 1000;
 inline constexpr const char *ChangeThroughJack = "change through the service over JACK";
 // The service's part of it: prepare, send and release of ten bytes.
 inline constexpr const char *MessageThroughJack = "message through the service over JACK";
+// The same init up to the return of its last send.
+inline constexpr const char *InitThroughJack = "init through the service over JACK";
 // RtMidiOut::sendMessage of the same ten bytes.
 inline constexpr const char *BareMessageOverJack = "bare sendMessage over JACK";
 // What a bare call makes of an init: so many changes come in a row.

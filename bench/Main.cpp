@@ -1,5 +1,6 @@
 // Measures the editor side by side with the least that the same work costs without it.
 #include "bench/Benches.hpp"
+#include "bench/KeystrokeTimes.hpp"
 #include "bench/Medians.hpp"
 #include "bench/Table.hpp"
 #include "bench/WindowStart.hpp"
@@ -38,6 +39,7 @@ Tessoro::Medians RunBenchmarks(int repetitions) {
 void Measure(const Effort &effort) {
   using namespace Tessoro;
   const WindowStarts starts = MeasureWindowStarts(effort.windowStarts);
+  const KeystrokeTimes keystrokes = MeasureKeystrokes();
 
   const Tests::JackServer jack;
   Benches::RegisterChange();
@@ -69,6 +71,11 @@ void Measure(const Effort &effort) {
        "bare sendMessage", bare},
       {"one change, text to return, JACK", nanoseconds(Benches::ChangeThroughJack), "ns", 1.1,
        "bare sendMessage", bare},
+      {"a whole init, click to return, JACK",
+       medians.Time(Benches::InitThroughJack) * MicrosecondsInSecond, "us", 1.5, "a null service",
+       medians.Time(Benches::InitAtNullService) * MicrosecondsInSecond},
+      {"one keystroke in the window (99th perc.)", keystrokes.editor, "us", 2,
+       "a field of the library", keystrokes.bareField},
       {"load of a sound file", medians.Time(Benches::LoadOfSound) * MicrosecondsInSecond, "us", 20,
        "bare read", medians.Time(Benches::BareReadOfSound) * MicrosecondsInSecond},
       {"save of a sound file", medians.Time(Benches::SaveOfSound) * MicrosecondsInSecond, "us", 5,

@@ -1,14 +1,14 @@
 #include "bench/WindowStart.hpp"
 
 #include "bench/Medians.hpp"
+#include "bench/ProgramDirectory.hpp"
 #include "bench/VirtualDisplay.hpp"
 
 #include <array>
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <stdexcept>
+#include <string>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -19,27 +19,6 @@ namespace Tessoro {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-// Ports are chosen, so that no further window comes up.
-class ProgramDirectory {
-public:
-  ProgramDirectory() {
-    std::string name = (std::filesystem::temp_directory_path() / "tessoro-bench-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      throw std::runtime_error("no temporary directory");
-    path = name;
-    std::ofstream(path / "Tessoro.ini") << "\"Tessoro v1.3.1\"\r\n,\"\"\r\n3,3\r\n0,0\r\n0,0\r\n"
-                                           "\"?\"\r\n\"No\"\r\n";
-  }
-  ~ProgramDirectory() { std::filesystem::remove_all(path); }
-  ProgramDirectory(const ProgramDirectory &) = delete;
-  ProgramDirectory &operator=(const ProgramDirectory &) = delete;
-
-  std::string Name() const { return path.string(); }
-
-private:
-  std::filesystem::path path;
-};
 
 WindowStart StartOnce(const char *program, const std::string &argument) {
   std::array<int, 2> pipeEnds{};
