@@ -9,6 +9,7 @@ packagesToTest=(libgtest-dev libgmock-dev jackd2 xvfb xdotool)
 packagesToBench=(libbenchmark-dev jackd2 xvfb)
 packagesToFormat=(clang-format)
 packagesToTidy=(clang-tidy)
+packagesToFuzz=(clang)
 
 installedOf() {
   dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p'
