@@ -20,7 +20,8 @@ constexpr int ThruLeadBytes = 24;
 // A stream that fills the cable by itself leaves a gap for the editor after so many messages.
 constexpr int MostThruInRow = 8;
 
-constexpr auto LookInterval = 250ms;
+// Shorter than a hand takes from the plug to the next knob.
+constexpr auto LookInterval = 50ms;
 
 double NanosecondsPerByte(double bytesPerSecond) {
   return bytesPerSecond == UnlimitedBytesPerSecond ? 0 : 1e9 / bytesPerSecond;
@@ -45,9 +46,6 @@ MidiResult PacedWire::Send(MidiBytes bytes) {
   if (!isPresent.load(std::memory_order_relaxed)) {
     return MidiResultCode::NoDevice;
   }
-  if (wasRefused.load(std::memory_order_relaxed) && wasRefused.exchange(false)) {
-    return MidiResultCode::NotReady;
-  }
   if (bytes.size() > longestMessage) {
     return MidiResultCode::InvalidParameter;
   }
@@ -55,6 +53,9 @@ MidiResult PacedWire::Send(MidiBytes bytes) {
     return MidiResultCode::NotReady;
   }
   doorbell.RingIfAwaited();
+  if (wasRefused.load(std::memory_order_relaxed) && wasRefused.exchange(false)) {
+    return MidiResultCode::NotReady;
+  }
   return MidiResultCode::Success;
 }
 
@@ -121,7 +122,7 @@ void PacedWire::HandOver(MessageRing &queue, Clock::time_point now) {
   queue.Take(message);
   thruInRow = &queue == &thruQueue ? std::min(thruInRow + 1, MostThruInRow) : 0;
   if (!end->Send(message)) {
-    wasRefused = true;
+    wasRefused = wasRefused || &queue == &editorQueue;
     nextLook = now;
   }
   const auto onCable = std::chrono::duration_cast<Clock::duration>(

@@ -31,7 +31,7 @@ public:
   // Hands one whole message over; false if the port refused it.
   virtual bool Send(MidiBytes message) = 0;
 
-  // Whether the port is there. Asked a few times a second; connects again when the port has come
+  // Whether the port is there. Asked some times a second; connects again when the port has come
   // back.
   virtual bool IsPresent() = 0;
 
@@ -49,8 +49,9 @@ public:
   PacedWire(const PacedWire &) = delete;
   PacedWire &operator=(const PacedWire &) = delete;
 
-  // NoDevice while the port is away, NotReady once after a message was refused and while the queue
-  // is full, InvalidParameter for a message that the port can never take.
+  // NoDevice while the port is away, NotReady while the queue is full, InvalidParameter for a
+  // message that the port can never take. NotReady also once after the port refused a message of
+  // these: that one is lost, and what is sent now still goes.
   MidiResult Send(MidiBytes bytes) override;
   void SendThru(MidiBytes bytes) override;
 

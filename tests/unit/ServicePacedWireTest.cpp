@@ -26,6 +26,7 @@ struct Port {
   std::vector<Arrival> arrivals;
   std::atomic<bool> isThere{true};
   std::atomic<bool> refuses{false};
+  std::atomic<int> refused{0};
   std::atomic<bool> isHeld{false}; // a send waits as long as this is set
 
   std::vector<Bytes> Messages() {
@@ -49,6 +50,7 @@ public:
       std::this_thread::sleep_for(1ms);
     }
     if (port.refuses) {
+      ++port.refused;
       return false;
     }
     const std::lock_guard lock(port.mutex);
@@ -219,11 +221,27 @@ TEST_F(ServicePacedWireTest, ARefusedMessageMakesTheNextSendFailOnce) {
   Open(CableBytesPerSecond);
   port.refuses = true;
   ASSERT_EQ(wire->Send(Change(1)), MidiResultCode::Success);
-  ASSERT_TRUE(Eventually([this] { return wire->Send(Change(2)) == MidiResultCode::NotReady; }));
+  ASSERT_TRUE(Eventually([this] { return port.refused == 1; }));
   port.refuses = false;
-  ASSERT_TRUE(Eventually([this] { return wire->Send(Change(3)) == MidiResultCode::Success; }));
-  EXPECT_TRUE(
-      Eventually([this] { return port.Count() > 0 && port.Messages().back() == Change(3); }));
+  std::vector<Bytes> sent;
+  const auto sendNext = [&] {
+    sent.push_back(Change(static_cast<int>(sent.size()) + 2));
+    return wire->Send(sent.back());
+  };
+  ASSERT_TRUE(Eventually([&] { return sendNext() == MidiResultCode::NotReady; }));
+  EXPECT_EQ(sendNext(), MidiResultCode::Success);
+  ASSERT_TRUE(Eventually([&] { return port.Count() == sent.size(); }));
+  EXPECT_EQ(port.Messages(), sent);
+}
+
+TEST_F(ServicePacedWireTest, ARefusedNoteOfTheThruConnectionCostsNoChange) {
+  Open(CableBytesPerSecond);
+  port.refuses = true;
+  wire->SendThru(Note(60));
+  ASSERT_TRUE(Eventually([this] { return port.refused == 1; }));
+  port.refuses = false;
+  EXPECT_EQ(wire->Send(Change(1)), MidiResultCode::Success);
+  EXPECT_TRUE(Eventually([this] { return port.Count() == 1; }));
 }
 
 TEST_F(ServicePacedWireTest, AMessageThatThePortCannotTakeIsNotAccepted) {
