@@ -10,6 +10,7 @@ packagesToBench=(libbenchmark-dev jackd2 xvfb)
 packagesToFormat=(clang-format)
 packagesToTidy=(clang-tidy)
 packagesToFuzz=(clang)
+packagesToTestAlsa=(qemu-system-x86 busybox-static cpio kmod)
 
 installedOf() {
   dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p'

@@ -1,4 +1,4 @@
-// Software instruments on a JACK server, as the tests plug and play them.
+// Software instruments, as the tests plug and play them.
 #pragma once
 
 #include <RtMidi.h>
@@ -30,7 +30,8 @@ inline void LetTheNewsPass() { std::this_thread::sleep_for(60ms); }
 // An instrument that writes down what it gets.
 class Synth {
 public:
-  explicit Synth(const std::string &client) : port(RtMidi::UNIX_JACK, client) {
+  explicit Synth(const std::string &client, RtMidi::Api system = RtMidi::UNIX_JACK)
+      : port(system, client) {
     port.ignoreTypes(false, false, false);
     port.setCallback(&Synth::Take, this);
     port.openVirtualPort("in");
@@ -73,7 +74,8 @@ private:
 // A keyboard that the test plays.
 class Keyboard {
 public:
-  explicit Keyboard(const std::string &client) : port(RtMidi::UNIX_JACK, client) {
+  explicit Keyboard(const std::string &client, RtMidi::Api system = RtMidi::UNIX_JACK)
+      : port(system, client) {
     port.openVirtualPort("out");
   }
 
