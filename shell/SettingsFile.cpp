@@ -4,6 +4,7 @@
 #include "shell/Application.hpp"
 #include "surface/Conversions.hpp"
 
+#include <algorithm>
 #include <limits>
 
 namespace Tessoro {
@@ -16,11 +17,11 @@ constexpr int HighestKnobSpeed = 5;
 
 double ReadNumber(FieldReader &settings) { return StrictNumber(settings.Read().text, '.'); }
 
+// A number beyond an int becomes the nearest one, which is as far outside every range.
 int ReadWhole(FieldReader &settings) {
-  const std::int64_t number = RoundHalfEven(ReadNumber(settings));
-  if (number > std::numeric_limits<int>::max() || number < std::numeric_limits<int>::min())
-    throw Failure(FailureCode::Overflow);
-  return static_cast<int>(number);
+  using Limits = std::numeric_limits<int>;
+  const double number = ReadNumber(settings);
+  return static_cast<int>(RoundHalfEven(std::clamp<double>(number, Limits::min(), Limits::max())));
 }
 
 template <typename Speed> void KeepSpeedInRange(Speed &speed) {

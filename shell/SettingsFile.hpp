@@ -16,7 +16,7 @@ std::string SettingsPath(const Application &app);
 
 // Takes the seven lines over into the globals, field by field: what was read before a failure stays
 // in force. Fails with 62 for a file that is too short, with 13 for a number field that holds
-// something else, with 6 for a number that its global can't hold.
+// something else, with 6 for a standard speed or an IN channel beyond 16 bits.
 void ReadSettings(FieldReader &settings, Application &app);
 
 void WriteSettings(FieldWriter &settings, const Application &app);

@@ -61,6 +61,8 @@ void Decimal(Session &session, const Words &words) {
 }
 
 void Start(Session &session, const Words & /*words*/) {
+  if (session.Started)
+    throw ScriptError("the editor has started already");
   session.Started = true;
   session.App.Start();
 }
@@ -71,7 +73,7 @@ constexpr Command Table[] = {
     {"midi-fail", "OPERATION NUMBER [NUMBER]", MidiFail},
     {"random", "NUMBER...", Random},
     {"decimal", "TEXT", Decimal, Allowed::BeforeStart},
-    {"start", "", Start, Allowed::BeforeStart},
+    {"start", "", Start},
 };
 
 } // namespace

@@ -89,17 +89,14 @@ int DrawForms(const QDir &folder) {
     return Save(program.Windows().WindowOf(form), QString::fromStdString(form.Name()) + suffix,
                 folder);
   };
-  bool isSaved = draw(editor.F_Tessoro, {});
+  const Form &mainForm = *editor.Forms().front(); // a run makes it first
+  bool isSaved = draw(mainForm, {});
   editor.Event([&editor] { InitSound(editor); });
-  LetTimePass(0);
-  isSaved = draw(editor.F_Tessoro, QStringLiteral("-init")) && isSaved;
   for (Form *form : editor.Forms()) {
-    if (form == &editor.F_Tessoro)
-      continue;
     if (!form->IsShown())
       editor.Event([form] { form->Show(); });
     LetTimePass(0);
-    isSaved = draw(*form, {}) && isSaved;
+    isSaved = draw(*form, form == &mainForm ? QStringLiteral("-init") : QString()) && isSaved;
   }
   return isSaved ? 0 : 1;
 }

@@ -18,11 +18,6 @@ namespace Tessoro {
 
 namespace {
 
-char DecimalSign() {
-  const std::string sign = ToModel(QLocale::system().decimalPoint());
-  return sign.size() == 1 ? sign.front() : '.';
-}
-
 std::string TextFromQt(const QString &path) {
   return TextFromPath(std::filesystem::path(path.toStdU16String()));
 }
@@ -67,7 +62,7 @@ Program::Program(MidiService &midi, const std::string &programPath)
               .files = files,
               .random = random,
               .programPath = programPath,
-              .decimalSign = DecimalSign()}) {}
+              .decimalSign = DecimalSignOf(QLocale::system().decimalPoint())}) {}
 
 int Program::Run() {
   editor.Start();

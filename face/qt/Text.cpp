@@ -22,6 +22,11 @@ QString FromModel(std::string_view text) {
 
 std::string ToModel(const QString &text) { return Windows1252FromUtf8(text.toStdString()); }
 
+char DecimalSignOf(const QString &localeSign) {
+  const std::optional<std::string> sign = ExactWindows1252FromUtf8(localeSign.toStdString());
+  return sign && sign->size() == 1 ? sign->front() : '.';
+}
+
 QString WithLineBreaks(const QString &text) {
   QString lines;
   lines.reserve(text.size());

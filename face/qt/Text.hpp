@@ -12,6 +12,10 @@ QString FromModel(std::string_view text);
 // A character that has no byte becomes '?'.
 std::string ToModel(const QString &text);
 
+// The sign between a number's whole and its fraction, as the model reads it: a point in place of
+// one that isn't a single byte there.
+char DecimalSignOf(const QString &localeSign);
+
 // Carriage returns and line feeds, alone or in pairs of either order, become one '\n' each.
 QString WithLineBreaks(const QString &text);
 // As people read it: without the & before an access key, and with && as &.

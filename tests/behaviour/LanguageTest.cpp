@@ -69,7 +69,7 @@ constexpr Refusal Refusals[] = {
     {"call SendController 1 True", "\"True\" is no number and no text"},
     {"call NumericPrefix 12", "NumericPrefix takes TEXT"},
     // What comes before the start.
-    {"start", "start comes before start"},
+    {"start", "the editor has started already"},
     {"midi-out \"microQ\"", "midi-out comes before start"},
     {"midi-in \"Keys\"", "midi-in comes before start"},
     {"decimal \",\"", "decimal comes before start"},

@@ -23,6 +23,11 @@ protected:
     QTest::keyClick(WindowOf(bench).windowHandle(), key, modifiers);
   }
 
+  void Activate(const Form &form) const {
+    WindowOf(form).activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(form)));
+  }
+
   // As the window system does: the modifiers are those before the event.
   static void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers before,
                    bool repeats = false) {
@@ -141,11 +146,30 @@ TEST_F(FormWindowTest, AHeldKeyGoesDownAgainAndAgainAndComesUpOnce) {
 }
 
 TEST_F(FormWindowTest, ShiftOnTheMainFormSetsTheFlagOfTheKnobs) {
-  WindowOf(app.F_Tessoro).activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(app.F_Tessoro)));
+  Activate(app.F_Tessoro);
+  for (const Control *control : std::initializer_list<Control *>{
+           &app.F_Tessoro.TextF1_cutoff, &app.F_Tessoro.ComboF1Modulation, &app.F_Tessoro.Panic}) {
+    Focus(*control);
+    ASSERT_EQ(QApplication::focusWidget(), &WidgetOf(*control)) << control->Name();
+    Send(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+    EXPECT_EQ(app.Module1.ShiftHeld, -1) << control->Name();
+    Send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
+    EXPECT_EQ(app.Module1.ShiftHeld, 0) << control->Name();
+  }
+}
+
+TEST_F(FormWindowTest, ShiftOnTheLfoFormSetsTheFlagOnlyWhereNoControlHasTheFocus) {
+  app.F_Tessoro.InitPanelParams(); // it takes a sound to load
+  app.F_LFO.Show();
+  Activate(app.F_LFO);
+  QWidget &box = WidgetOf(app.F_LFO.TextLFO1speed);
+  box.setFocus(Qt::TabFocusReason);
   Send(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+  EXPECT_EQ(app.Module1.ShiftHeld, 0);
+  box.clearFocus();
+  QTest::keyPress(WindowOf(app.F_LFO).windowHandle(), Qt::Key_Shift);
   EXPECT_EQ(app.Module1.ShiftHeld, -1);
-  Send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
+  QTest::keyRelease(WindowOf(app.F_LFO).windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
   EXPECT_EQ(app.Module1.ShiftHeld, 0);
 }
 

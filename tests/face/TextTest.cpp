@@ -28,6 +28,15 @@ TEST(Text, WhatIsPastedEndsAtItsFirstLineBreak) {
   EXPECT_EQ(inOneLine(u"6", u"64"), QStringLiteral("64"));
 }
 
+TEST(Text, ADecimalSignThatTheModelCanNotWriteIsAPoint) {
+  EXPECT_EQ(DecimalSignOf(QStringLiteral(".")), '.');
+  EXPECT_EQ(DecimalSignOf(QStringLiteral(",")), ',');
+  EXPECT_EQ(DecimalSignOf(QStringLiteral("\u00B7")), '\xB7');
+  EXPECT_EQ(DecimalSignOf(QStringLiteral("\u066B")), '.');
+  EXPECT_EQ(DecimalSignOf(QStringLiteral(",,")), '.');
+  EXPECT_EQ(DecimalSignOf({}), '.');
+}
+
 TEST(Text, CharactersOfTheModelComeBack) {
   for (int byte = 1; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <initializer_list>
 #include <span>
 
 namespace Tessoro {
@@ -25,6 +26,13 @@ std::string Word(std::uint32_t word) {
   return digits.data();
 }
 
+std::string Numbers(std::initializer_list<std::uint32_t> numbers) {
+  std::string text;
+  for (const std::uint32_t number : numbers)
+    text += " " + std::to_string(number);
+  return text;
+}
+
 void PutText(std::string &buffer, const std::string &text) {
   buffer.replace(0, std::min(buffer.size(), text.size() + 1), text + '\0');
 }
@@ -43,8 +51,16 @@ MidiResult TestMidi::Note(const std::string &operation, const std::string &rest)
   return ResultOf(operation);
 }
 
-MidiResult TestMidi::midiOutOpen(MidiHandle &handle, std::int32_t device, std::uint32_t,
-                                 std::uint32_t, std::uint32_t) {
+void TestMidi::NoteBuffer(const std::string &operation, const std::string &buffer,
+                          std::uint32_t size) {
+  const bool isBlank = buffer.find_first_not_of(' ') == std::string::npos;
+  constants.push_back(operation + " " + std::to_string(size) + " for " +
+                      std::to_string(buffer.size()) + (isBlank ? " blanks" : " bytes"));
+}
+
+MidiResult TestMidi::midiOutOpen(MidiHandle &handle, std::int32_t device, std::uint32_t callback,
+                                 std::uint32_t instance, std::uint32_t flags) {
+  constants.push_back("midiOutOpen" + Numbers({callback, instance, flags}));
   const MidiResult result = Note("midiOutOpen", std::to_string(device));
   if (result == MidiResultCode::Success)
     handle = OutHandle;
@@ -79,7 +95,9 @@ std::uint32_t TestMidi::midiOutGetNumDevs() {
   return static_cast<std::uint32_t>(outDevices.size());
 }
 
-MidiResult TestMidi::midiOutGetDevCapsA(std::int32_t device, MIDIOUTCAPS &record, std::uint32_t) {
+MidiResult TestMidi::midiOutGetDevCapsA(std::int32_t device, MIDIOUTCAPS &record,
+                                        std::uint32_t size) {
+  constants.push_back("midiOutGetDevCapsA" + Numbers({size}));
   if (device == MidiMapper) {
     record = MapperCapabilities();
     return MidiResultCode::Success;
@@ -89,13 +107,16 @@ MidiResult TestMidi::midiOutGetDevCapsA(std::int32_t device, MIDIOUTCAPS &record
   return ResultOf("midiOutGetDevCapsA");
 }
 
-MidiResult TestMidi::midiOutGetErrorTextA(MidiResult code, std::string &buffer, std::uint32_t) {
+MidiResult TestMidi::midiOutGetErrorTextA(MidiResult code, std::string &buffer,
+                                          std::uint32_t size) {
+  NoteBuffer("midiOutGetErrorTextA", buffer, size);
   PutText(buffer, "OUT error " + std::to_string(code));
   return MidiResultCode::Success;
 }
 
-MidiResult TestMidi::midiInOpen(MidiHandle &handle, std::int32_t device, std::uint32_t,
-                                std::uint32_t, std::uint32_t) {
+MidiResult TestMidi::midiInOpen(MidiHandle &handle, std::int32_t device, std::uint32_t callback,
+                                std::uint32_t instance, std::uint32_t flags) {
+  constants.push_back("midiInOpen" + Numbers({callback, instance, flags}));
   const MidiResult result = Note("midiInOpen", std::to_string(device));
   if (result == MidiResultCode::Success)
     handle = InHandle;
@@ -116,13 +137,16 @@ MidiResult TestMidi::midiInStop(MidiHandle handle) {
 
 std::uint32_t TestMidi::midiInGetNumDevs() { return static_cast<std::uint32_t>(inDevices.size()); }
 
-MidiResult TestMidi::midiInGetDevCapsA(std::int32_t device, MIDIINCAPS &record, std::uint32_t) {
+MidiResult TestMidi::midiInGetDevCapsA(std::int32_t device, MIDIINCAPS &record,
+                                       std::uint32_t size) {
+  constants.push_back("midiInGetDevCapsA" + Numbers({size}));
   record = {};
   PutDeviceName(record.szPname, inDevices.at(static_cast<std::size_t>(device)));
   return ResultOf("midiInGetDevCapsA");
 }
 
-MidiResult TestMidi::midiInGetErrorTextA(MidiResult code, std::string &buffer, std::uint32_t) {
+MidiResult TestMidi::midiInGetErrorTextA(MidiResult code, std::string &buffer, std::uint32_t size) {
+  NoteBuffer("midiInGetErrorTextA", buffer, size);
   PutText(buffer, "IN error " + std::to_string(code));
   return MidiResultCode::Success;
 }

@@ -41,6 +41,9 @@ public:
   std::vector<std::string> calls;
   // Runs at each call, after it was noted.
   std::function<void()> onCall;
+  // What is the same at every call of an operation, and so isn't told in `calls`: "midiOutOpen 1 0
+  // 0", "midiOutGetDevCapsA 52", "midiInGetErrorTextA 255 for 255 blanks".
+  std::vector<std::string> constants;
   // What stands in `calls`, but only the messages: "00643C90", "F0 3E F7".
   std::vector<std::string> messages;
   // By operation; an operation that isn't named succeeds.
@@ -53,6 +56,7 @@ public:
 
 private:
   MidiResult Note(const std::string &operation, const std::string &rest);
+  void NoteBuffer(const std::string &operation, const std::string &buffer, std::uint32_t size);
   MidiResult ResultOf(const std::string &operation) const;
 };
 

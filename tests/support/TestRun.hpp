@@ -31,6 +31,7 @@ struct TestRun {
   void Forget() {
     midi.calls.clear();
     midi.messages.clear();
+    midi.constants.clear();
     screen.forms.clear();
     screen.boxes.clear();
     screen.changes.clear();

@@ -167,6 +167,12 @@ TEST_F(FormTest, QuittingRunsNoUnload) {
   EXPECT_TRUE(run.app.HasEnded());
 }
 
+TEST_F(FormTest, OnlyTheMainFormOfTheEditorPreviewsKeys) {
+  const TestRun other;
+  for (const Form *each : other.app.Forms())
+    EXPECT_EQ(each->Design().keyPreview, each->Name() == "F_Tessoro") << each->Name();
+}
+
 TEST_F(FormTest, TwoRunsLiveSideBySide) {
   TestRun other;
   run.StartWithOpenPorts();

@@ -152,6 +152,12 @@ TEST_F(MidiLinkTest, ResultsOfShortMessagesAreIgnored) {
   EXPECT_THAT(run.screen.boxes, IsEmpty());
 }
 
+TEST_F(MidiLinkTest, AControllerThatFailsMarksTheTitleAllTheSame) {
+  run.midi.results["midiOutShortMsg"] = 5;
+  Globals().SendController(52, 1.0);
+  EXPECT_EQ(run.app.F_Tessoro.Caption(), "Tessoro v1.3.1 - .tss *");
+}
+
 TEST_F(MidiLinkTest, ThePanicSweepIsSixteenTimesTheNotesFromOneUp) {
   Globals().SendNoteOffSweep();
   ASSERT_EQ(Messages().size(), 2032U);
@@ -176,6 +182,12 @@ TEST_F(MidiLinkTest, OpeningOutTakesTheChosenDeviceAndTestsNothing) {
   EXPECT_THAT(Calls(), ElementsAre("midiOutOpen 3"));
 }
 
+TEST_F(MidiLinkTest, PortsAreOpenedWithoutACallback) {
+  Globals().OpenCloseMidiOut("open");
+  Globals().OpenCloseMidiThru("open");
+  EXPECT_THAT(run.midi.constants, ElementsAre("midiOutOpen 1 0 0", "midiInOpen 0 0 0"));
+}
+
 TEST_F(MidiLinkTest, AFailedOpenOfOutShowsItsError) {
   Globals().hMidiOut = 0;
   run.midi.results["midiOutOpen"] = 4;
@@ -188,6 +200,15 @@ TEST_F(MidiLinkTest, AnyTextButOpenCloses) {
   Globals().OpenCloseMidiOut("Open");
   EXPECT_THAT(Calls(), ElementsAre("midiOutClose 41"));
   EXPECT_EQ(Globals().hMidiOut, 0U);
+}
+
+TEST_F(MidiLinkTest, AnyTextButOpenClosesThru) {
+  for (const char *command : {"Open", "", "open "}) {
+    Calls().clear();
+    Globals().OpenCloseMidiThru(command);
+    EXPECT_THAT(Calls(), ElementsAre("midiInStop 42", "midiDisconnect 42 41", "midiInClose 42"))
+        << command;
+  }
 }
 
 TEST_F(MidiLinkTest, OutCountsAsClosedAlsoWhereTheCloseFails) {
@@ -266,6 +287,19 @@ TEST_F(MidiLinkTest, ALabelWithOutInAnyCapitalsAsksForAnOutError) {
   EXPECT_THAT(BoxTexts(), Each(ErrorBox("IN error 7")));
   EXPECT_EQ(run.screen.boxes.front().title, "Tessoro");
   EXPECT_EQ(run.screen.boxes.front().flags, 0);
+}
+
+TEST_F(MidiLinkTest, AnErrorTextHasRoomForTwoHundredAndFiftyFiveBytes) {
+  Globals().ShowMidiError("out", 7);
+  Globals().ShowMidiError("in", 7);
+  EXPECT_THAT(run.midi.constants, ElementsAre("midiOutGetErrorTextA 255 for 255 blanks",
+                                              "midiInGetErrorTextA 255 for 255 blanks"));
+}
+
+TEST_F(MidiLinkTest, ARecordOfCapabilitiesIsAskedForWithTheSizeOfItsFields) {
+  run.app.F_Midi.Show();
+  EXPECT_THAT(run.midi.constants, ElementsAre("midiOutGetDevCapsA 52", "midiOutGetDevCapsA 52",
+                                              "midiInGetDevCapsA 52"));
 }
 
 TEST(MidiDeviceNames, AreCutToTheRoomOfTheirField) {

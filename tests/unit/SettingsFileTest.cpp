@@ -204,15 +204,45 @@ TEST_F(SettingsFileTest, ANumberFieldThatHoldsSomethingElseIsTold) {
   }
 }
 
-TEST_F(SettingsFileTest, ANumberThatItsGlobalCanNotHoldIsToldAsAnOverflow) {
-  for (const Lines &lines : {Lines{.speeds = "3,40000"}, Lines{.in = "0,40000"},
-                             Lines{.in = "1E10,0"}, Lines{.out = "0,-1E10"}}) {
+TEST_F(SettingsFileTest, ANumberBeyondSixteenBitsIsAnOverflowInAFieldOfSixteenBits) {
+  for (const Lines &lines : {Lines{.speeds = "3,40000"}, Lines{.speeds = "3,1E10"},
+                             Lines{.in = "0,40000"}, Lines{.in = "0,-1E30"}}) {
     TestRun other;
     other.files.contents[SettingsName] = lines.Text();
     other.app.Start();
     ASSERT_EQ(other.screen.boxes.size(), 1U) << lines.Text();
     EXPECT_EQ(other.screen.boxes[0].text, " 6: Overflow");
   }
+}
+
+TEST_F(SettingsFileTest, APortIsOutOfItsRangeHoweverLargeItIs) {
+  for (const char *port : {"10000000000", "-1E10", "1E30", "-1E30"}) {
+    for (const bool isIn : {true, false}) {
+      const std::string line = std::string(port) + ",0";
+      TestRun other;
+      other.files.contents[SettingsName] =
+          (isIn ? Lines{.in = line} : Lines{.in = "0,0", .out = line}).Text();
+      other.app.Start();
+      ASSERT_EQ(other.screen.boxes.size(), 1U) << port;
+      EXPECT_EQ(
+          other.screen.boxes[0].text,
+          isIn ? "INI file corrupt. Invalid MIDI IN port - please select a MIDI port manually."
+               : "INI file corrupt! Invalid MIDI OUT port - please select a MIDI port manually.");
+      EXPECT_THAT(other.midi.calls, IsEmpty()) << port;
+      // The start goes on to its end.
+      EXPECT_EQ(other.app.Module1.IniProgramVersion, "1.3");
+      EXPECT_EQ(other.app.Module1.ErrorPhase, "general");
+      EXPECT_EQ(other.app.Module1.SoundName, std::string(16, '?'));
+    }
+  }
+}
+
+TEST_F(SettingsFileTest, AFineSpeedAndAChannelMayBeOfAnySize) {
+  StartWith(Lines{.speeds = "1E10,4", .out = "0,1E10"}.Text());
+  EXPECT_THAT(run.screen.boxes, IsEmpty());
+  EXPECT_EQ(Globals().KnobFineChange, 3);
+  EXPECT_GT(Globals().MidiChannel, 99);
+  EXPECT_EQ(Globals().hMidiOut, TestMidi::OutHandle);
 }
 
 TEST_F(SettingsFileTest, WhatTheSystemRefusesIsTold) {
@@ -272,6 +302,15 @@ TEST_F(SettingsFileTest, AFolderThatCanNotBeWrittenIsToldAndTheWindowGoes) {
   EXPECT_THAT(run.screen.ends, ElementsAre(ProgramEnd::Closed));
 }
 
+TEST_F(SettingsFileTest, OutIsClosedBeforeTheFileIsWritten) {
+  StartWith(Lines().Text());
+  run.midi.results["midiOutClose"] = 5;
+  run.files.writingFailsWith = FailureCode::PathFileAccessError;
+  run.app.F_Tessoro.UserClose();
+  EXPECT_THAT(BoxTexts(), ElementsAre("Tessoro | vrn midi out detection:\r\nOUT error 5\r\n",
+                                      "Error writing INI file. |  75: Path/File access error"));
+}
+
 TEST_F(SettingsFileTest, QuittingByTheMenuWritesNothingAndClosesNothing) {
   StartWith(Lines().Text());
   Globals().MidiOutPort = 3;
@@ -284,6 +323,12 @@ TEST_F(SettingsFileTest, QuittingByTheMenuWritesNothingAndClosesNothing) {
 
 TEST_F(SettingsFileTest, StandsBesideTheProgram) {
   EXPECT_EQ(SettingsPath(run.app), "/editor/Tessoro.ini");
+}
+
+TEST_F(SettingsFileTest, TheSeparatorStandsTwiceBesideAProgramInARoot) {
+  Platform platform = run.app.System();
+  platform.programPath = "/";
+  EXPECT_EQ(SettingsPath(Application(platform)), "//Tessoro.ini");
 }
 
 } // namespace
