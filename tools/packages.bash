@@ -9,6 +9,8 @@ packagesToTest=(libgtest-dev libgmock-dev jackd2 xvfb xdotool)
 packagesToBench=(libbenchmark-dev jackd2 xvfb)
 packagesToFormat=(clang-format)
 packagesToTidy=(clang-tidy)
+packagesToPackage=(dpkg-dev file gzip desktop-file-utils appstream lintian man-db)
+packagesToTestPackage=(debootstrap util-linux xvfb xdotool python3-xlib)
 
 installedOf() {
   dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p'
