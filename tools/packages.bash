@@ -11,6 +11,8 @@ packagesToFormat=(clang-format)
 packagesToTidy=(clang-tidy)
 packagesToFuzz=(clang)
 packagesToTestAlsa=(qemu-system-x86 busybox-static cpio kmod)
+packagesToPackage=(dpkg-dev file gzip desktop-file-utils appstream lintian man-db)
+packagesToTestPackage=(debootstrap util-linux xvfb xdotool python3-xlib)
 
 installedOf() {
   dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p'

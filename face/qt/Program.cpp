@@ -40,7 +40,7 @@ void DressApplication() {
   QApplication::setLayoutDirection(Qt::LeftToRight); // places are fixed
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
   QApplication::setWindowIcon(WindowIcon());
-  QGuiApplication::setDesktopFileName(QStringLiteral("tessoro"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.tessoro.Tessoro"));
   DescribeViewsToScreenReaders();
 }
 

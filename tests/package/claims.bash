@@ -1,0 +1,64 @@
+# The claims of the package's test, and how they are counted. It stands in $tree and writes into $work.
+
+passed=0
+failed=0
+
+# Runs a command and says whether it did what the title claims.
+claim() {
+  local title=$1
+  shift
+  if "$@" >"$work/output" 2>&1; then
+    passed=$((passed + 1))
+    echo "good: $title"
+  else
+    failed=$((failed + 1))
+    echo "BAD:  $title"
+    sed 's/^/      /' "$work/output"
+  fi
+}
+
+closeClaims() {
+  echo "$passed passed, $failed failed"
+  [ "$failed" -eq 0 ]
+}
+
+waitUntil() {
+  local tries=0
+  until "$@"; do
+    [ $((tries += 1)) -lt 300 ] || { echo "in vain waited until $*"; return 1; }
+    sleep 0.1
+  done
+}
+
+versionLine() { echo "Tessoro $(dpkg-deb -f "$1" Version | sed 's/-.*//')"; }
+
+# The version that is installed has this form.
+hasVersion() {
+  # shellcheck disable=SC2053 # a form, not a text
+  [[ $(inTree dpkg-query -W -f='${Version}' tessoro) == $1 ]]
+}
+
+isEmpty() {
+  cat "$1"
+  test ! -s "$1"
+}
+
+endsClosed() { "$@" | tee /dev/stderr | tail -n 1 | grep -qx 'end closed'; }
+
+hasIcons() {
+  local side theme=$tree/usr/share/icons/hicolor
+  for side in 16 22 24 32 48 64 128 256; do
+    file "$theme/${side}x$side/apps/org.tessoro.Tessoro.png" \
+      "$theme/${side}x$side/mimetypes/application-x-tessoro-sound.png" |
+      grep -c "PNG image data, $side x $side," | grep -qx 2 || return 1
+  done
+  test -f "$theme/scalable/apps/org.tessoro.Tessoro.svg"
+}
+
+# The folder of sounds may have become known meanwhile.
+settingsAreKept() { diff <(sed 2d "$work/settings") <(sed 2d "$settings"); }
+
+leavesOnlyHome() {
+  diff "$work/before" "$work/after" | grep '^[<>]' | grep -v '^> ./home/player' && return 1
+  return 0
+}
