@@ -22,7 +22,8 @@ void PluggedEditorTest::StartPlugged() {
 }
 
 std::vector<Bytes> PluggedEditorTest::Hear(std::size_t count) {
-  EXPECT_TRUE(Eventually([&] { return synth->Count() >= heard + count; }));
+  EXPECT_TRUE(Eventually([&] { return synth->Count() >= heard + count; }))
+      << "with these windows: " << display.Titles();
   std::vector<Bytes> messages = synth->Messages();
   messages.erase(messages.begin(), messages.begin() + static_cast<std::ptrdiff_t>(heard));
   heard += messages.size();

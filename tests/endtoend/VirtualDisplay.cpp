@@ -75,6 +75,10 @@ std::string VirtualDisplay::WindowCalled(const std::string &title) const {
   return Do("search --onlyvisible --name '" + title + "'");
 }
 
+std::string VirtualDisplay::Titles() const {
+  return Do("search --onlyvisible --name . getwindowname %@");
+}
+
 std::string VirtualDisplay::WaitForWindow(const std::string &title) const {
   std::string window;
   WaitFor("a window called " + title, [&] {

@@ -47,6 +47,8 @@ public:
 
   // Empty if no such window is to be seen.
   std::string WindowCalled(const std::string &title) const;
+  // The titles of all that are to be seen, a line each.
+  std::string Titles() const;
   std::string WaitForWindow(const std::string &title) const;
   void WaitUntilGone(const std::string &title) const;
   Area AreaOf(const std::string &window) const;
