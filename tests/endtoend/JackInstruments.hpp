@@ -1,12 +1,13 @@
 // Software instruments, as the tests plug and play them.
 #pragma once
 
+#include "tests/endtoend/Waiting.hpp"
+
 #include <RtMidi.h>
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -22,6 +23,24 @@ struct Arrival {
   Clock::time_point time;
   Bytes bytes;
 };
+
+// What the editor sends on the first channel for a parameter, a controller and a note. Parameters
+// have the editor's numbers, which leave 256 out.
+inline Bytes Parameter(int number, int value) {
+  const int address = number > 256 ? number - 1 : number;
+  Bytes message{0xF0, 0x3E, 0x10, 0x00, 0x20, 0x00};
+  for (const int last : {address / 128, address % 128, value, 0xF7})
+    message.push_back(static_cast<std::uint8_t>(last));
+  return message;
+}
+
+inline Bytes Controller(int number, int value) {
+  return {0xB0, static_cast<std::uint8_t>(number), static_cast<std::uint8_t>(value)};
+}
+
+inline Bytes Note(int number, int velocity) {
+  return {0x90, static_cast<std::uint8_t>(number), static_cast<std::uint8_t>(velocity)};
+}
 
 // JACK's library tells its clients of each change a few cycles later, and crashes now and then if a
 // client forgets its port meanwhile.
@@ -88,16 +107,5 @@ public:
 private:
   RtMidiOut port;
 };
-
-inline bool Eventually(const std::function<bool()> &condition, Clock::duration patience = 20s) {
-  const auto deadline = Clock::now() + patience;
-  while (!condition()) {
-    if (Clock::now() > deadline) {
-      return false;
-    }
-    std::this_thread::sleep_for(1ms);
-  }
-  return true;
-}
 
 } // namespace Tessoro::Tests

@@ -1,75 +1,18 @@
 // The monitor as a program of its own, on a JACK server and on a machine without one.
-#include "tests/endtoend/ChildProcess.hpp"
 #include "tests/endtoend/JackInstruments.hpp"
 #include "tests/endtoend/JackServer.hpp"
+#include "tests/endtoend/RunningMonitor.hpp"
 
 #include "service/MachineMidi.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sstream>
-
 namespace Tessoro::Tests {
 namespace {
 
-namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-std::string Content(const fs::path &file) {
-  std::ifstream stream(file);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-// Writes what it prints into files of a directory of its own.
-class RunningMonitor {
-public:
-  explicit RunningMonitor(const std::string &arguments,
-                          const std::vector<std::string> &environment = {}) {
-    std::string name = (fs::temp_directory_path() / "tessoro-monitor-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      throw std::runtime_error("no directory for the test");
-    directory = name;
-    const std::string command = "cd '" + name + "' && echo $$ >pid && exec '" TESSORO_MONITOR "' " +
-                                arguments + " >out 2>err";
-    program =
-        std::make_unique<ChildProcess>(std::vector<std::string>{"sh", "-c", command}, environment);
-  }
-  ~RunningMonitor() {
-    program.reset();
-    std::error_code ignored;
-    fs::remove_all(directory, ignored);
-  }
-  RunningMonitor(const RunningMonitor &) = delete;
-  RunningMonitor &operator=(const RunningMonitor &) = delete;
-
-  // As Ctrl+C does.
-  void Interrupt() { kill(std::stoi(Content(directory / "pid")), SIGINT); }
-  std::optional<int> ExitStatus() { return program->ExitStatusWithin(10s); }
-  std::string Output() const { return Content(directory / "out"); }
-  std::string Errors() const { return Content(directory / "err"); }
-
-  // Without the times, and without the first line, which says where it listens.
-  std::vector<std::string> Messages() const {
-    constexpr std::size_t timeWidth = 11;
-    std::istringstream stream(Output());
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
-      lines.push_back(line.substr(std::min(line.size(), timeWidth)));
-    if (!lines.empty())
-      lines.erase(lines.begin());
-    return lines;
-  }
-
-private:
-  fs::path directory;
-  std::unique_ptr<ChildProcess> program;
-};
 
 const std::string NoServer = "JACK_DEFAULT_SERVER=tessoro-test-no-server";
 

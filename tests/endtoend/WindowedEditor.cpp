@@ -1,10 +1,10 @@
 #include "tests/endtoend/WindowedEditor.hpp"
 
-#include "surface/Form.hpp"
+#include "tests/endtoend/Waiting.hpp"
+
+#include <unistd.h>
 
 #include <fstream>
-#include <stdexcept>
-#include <thread>
 
 namespace Tessoro::Tests {
 namespace {
@@ -12,128 +12,103 @@ namespace {
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
-constexpr auto Patience = 20s;
-constexpr int TwipsPerPixel = 15;
-constexpr int HeightOfForm = 8580 / TwipsPerPixel;
+constexpr const char *MainTitle = "^Tessoro (freeware )?v[0-9]";
 
-fs::path NewDirectory() {
-  std::string name = (fs::temp_directory_path() / "tessoro-window-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr)
-    throw std::runtime_error("no directory for the test");
-  return name;
+// The rights of files don't bind the superuser, who may be the one that runs the tests.
+std::vector<std::string> AsUser(const fs::path &executable) {
+  if (geteuid() != 0)
+    return {executable.string()};
+  return {"setpriv", "--bounding-set=-dac_override,-dac_read_search", executable.string()};
 }
 
-std::string WithoutLineEnd(std::string text) {
-  while (!text.empty() && text.back() == '\n')
-    text.pop_back();
-  return text;
-}
-
-template <typename Condition> void WaitFor(Condition &&condition, const std::string &what) {
-  const auto deadline = std::chrono::steady_clock::now() + Patience;
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > deadline)
-      throw std::runtime_error("in vain waited for " + what);
-    std::this_thread::sleep_for(20ms);
-  }
+std::vector<std::string> WithDisplay(std::vector<std::string> environment,
+                                     const VirtualDisplay &display) {
+  environment.push_back("DISPLAY=" + display.Name());
+  environment.emplace_back("QT_QPA_PLATFORM=xcb");
+  return environment;
 }
 
 } // namespace
 
-VirtualDisplay::VirtualDisplay() : numberFile(NewDirectory() / "number") {
-  server = std::make_unique<ChildProcess>(std::vector<std::string>{
-      "sh", "-c",
-      "exec Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>" + numberFile.string()});
-  WaitFor(
-      [this] {
-        std::ifstream file(numberFile);
-        std::string number;
-        if (!std::getline(file, number) || file.eof())
-          return false; // the number isn't whole before its line ends
-        name = ":" + number;
-        return true;
-      },
-      "an X server");
+std::string SettingsWithPorts(int outPort, int inPort, const std::string &soundFolder) {
+  return "\"Tessoro v1.3.1\"\r\n\"\",\"\"\r\n3,3\r\n" + std::to_string(inPort) + ",0\r\n" +
+         std::to_string(outPort) + ",0\r\n\"" + soundFolder + "\"\r\n\"No\"\r\n";
 }
 
-VirtualDisplay::~VirtualDisplay() {
+EditorDirectory::EditorDirectory() : path(NewTestDirectory()) {
+  fs::copy_file(TESSORO_PROGRAM, path / "tessoro");
+}
+
+// A test may have taken rights away.
+EditorDirectory::~EditorDirectory() {
   std::error_code ignored;
-  fs::remove_all(numberFile.parent_path(), ignored);
+  fs::permissions(path, fs::perms::owner_all, ignored);
+  fs::remove_all(path, ignored);
 }
 
-WindowedEditor::WindowedEditor(int outPort, int inPort) : directory(NewDirectory()) {
-  const fs::path executable = directory / "tessoro";
-  fs::copy_file(TESSORO_PROGRAM, executable);
-  std::ofstream settings(directory / "Tessoro.ini", std::ios::binary);
-  settings << "\"Tessoro v1.3.1\"\r\n\"\",\"\"\r\n3,3\r\n"
-           << inPort << ",0\r\n"
-           << outPort << ",0\r\n\"?\"\r\n\"No\"\r\n";
-  settings.close();
-  program = std::make_unique<ChildProcess>(
-      std::vector<std::string>{executable.string()},
-      std::vector<std::string>{"DISPLAY=" + display.Name(), "QT_QPA_PLATFORM=xcb"});
-  window = WaitForWindow("^Tessoro freeware v");
-  MeasureMenu();
+void EditorDirectory::WriteSettings(const std::string &content) const {
+  std::ofstream(Settings(), std::ios::binary) << content;
+}
+
+WindowedEditor::WindowedEditor(const VirtualDisplay &shownOn, const EditorDirectory &place,
+                               const std::vector<std::string> &environment)
+    : display(shownOn), program(std::make_unique<ChildProcess>(AsUser(place.Path() / "tessoro"),
+                                                               WithDisplay(environment, display))) {
 }
 
 // A client that is killed may hold up a JACK server for good, so the program is asked to end.
 WindowedEditor::~WindowedEditor() {
-  if (!program->ExitStatusWithin(0s)) {
-    QuitByMenu();
-    program->ExitStatusWithin(5s);
+  try {
+    if (!program->ExitStatusWithin(0s)) {
+      QuitByMenu();
+      program->ExitStatusWithin(5s);
+    }
+  } catch (const std::runtime_error &) {
+    // It has no window any more; its process is ended all the same.
   }
-  program.reset();
-  std::error_code ignored;
-  fs::remove_all(directory, ignored);
 }
 
-std::string WindowedEditor::Do(const std::string &command) const {
-  return WithoutLineEnd(
-      OutputOf("DISPLAY=" + display.Name() + " timeout 10 xdotool " + command + " 2>/dev/null"));
+ShownForm WindowedEditor::MainForm() const { return {display, MainTitle, Design().F_Tessoro}; }
+
+ShownForm WindowedEditor::PortForm() const { return {display, "^MIDI settings$", Design().F_Midi}; }
+
+ShownForm WindowedEditor::Hint() const { return {display, "^Tessoro info$", Design().F_InfoPopUp}; }
+
+void WindowedEditor::AnswerBox(const std::string &title, const std::string &key) const {
+  const std::string pattern = "^" + title + "$";
+  const std::string box = display.WaitForWindow(pattern);
+  display.Focus(box);
+  display.PressKeys(key);
+  WaitFor("the end of the box " + title, [&] {
+    const std::string next = display.WindowCalled(pattern);
+    return next != box;
+  });
 }
 
-// Gives it the focus as well, which no window manager does here.
-std::string WindowedEditor::WaitForWindow(const std::string &titlePattern) const {
-  std::string found;
-  WaitFor(
-      [&] {
-        found = Do("search --onlyvisible --name '" + titlePattern + "'");
-        return !found.empty();
-      },
-      "a window called " + titlePattern);
-  WaitFor(
-      [&] {
-        Do("windowfocus " + found);
-        return Do("getwindowfocus") == found;
-      },
-      "the focus of " + titlePattern);
-  return found;
+bool WindowedEditor::ShowsBox(const std::string &title) const {
+  return !display.WindowCalled("^" + title + "$").empty();
 }
 
-void WindowedEditor::FocusBox(const std::string &title) { WaitForWindow("^" + title + "$"); }
-
-void WindowedEditor::MeasureMenu() {
-  const std::string geometry = Do("getwindowgeometry --shell " + window);
-  const std::size_t height = geometry.find("HEIGHT=");
-  if (height == std::string::npos)
-    throw std::runtime_error("no size of the window: " + geometry);
-  heightOfMenu = std::stoi(geometry.substr(height + 7)) - HeightOfForm;
+void WindowedEditor::CloseHint() const {
+  const ShownForm hint = Hint();
+  hint.Click(Design().F_InfoPopUp.InfoText);
+  hint.WaitUntilGone();
 }
 
-void WindowedEditor::Click(const Control &control) {
-  const Place &place = control.DesignPlace();
-  const int x = (place.left + place.width / 2) / TwipsPerPixel;
-  const int y = heightOfMenu + (place.top + place.height / 2) / TwipsPerPixel;
-  Do("mousemove --window " + window + " " + std::to_string(x) + " " + std::to_string(y) +
-     " click 1");
+void WindowedEditor::OpenPortFormByMenu() const { MainForm().PressKeys("alt+m Up Return"); }
+
+void WindowedEditor::ChoosePorts(int outPort, int inPort) const {
+  const F_Midi &ports = Design().F_Midi;
+  const ShownForm form = PortForm();
+  form.Step(ports.AuswahlMIDIPort, outPort + 1);
+  form.Step(ports.AuswahlMIDIinPort, inPort + 1);
+  form.Click(ports.Command1);
+  form.WaitUntilGone();
 }
 
-void WindowedEditor::PressKeys(const std::string &keys) { Do("key --delay 8 " + keys); }
+void WindowedEditor::CloseMainWindow() const { display.Close(display.WaitForWindow(MainTitle)); }
 
-void WindowedEditor::QuitByMenu() {
-  PressKeys("alt+f");
-  PressKeys("q");
-}
+void WindowedEditor::QuitByMenu() const { MainForm().PressKeys("alt+f q"); }
 
 std::optional<int> WindowedEditor::ExitStatus() { return program->ExitStatusWithin(5s); }
 

@@ -1,62 +1,73 @@
-// The real program in a real window, on a display that nobody sees, worked by real events.
+// The real program in a real window, worked by real events.
 #pragma once
 
-#include "surface/Control.hpp"
 #include "tests/endtoend/ChildProcess.hpp"
+#include "tests/endtoend/ShownForm.hpp"
+#include "tests/endtoend/VirtualDisplay.hpp"
+#include "tests/support/TestRun.hpp"
 
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Tessoro::Tests {
 
-// An X server of the test's own, under a number that was free.
-class VirtualDisplay {
-public:
-  VirtualDisplay();
-  ~VirtualDisplay();
-  VirtualDisplay(const VirtualDisplay &) = delete;
-  VirtualDisplay &operator=(const VirtualDisplay &) = delete;
+// What Tessoro.ini holds with these ports, and without the hint.
+std::string SettingsWithPorts(int outPort, int inPort, const std::string &soundFolder = "?");
 
-  // As ":7".
-  const std::string &Name() const { return name; }
+// A directory that holds the program and nothing else, as after an installation by hand.
+class EditorDirectory {
+public:
+  EditorDirectory();
+  ~EditorDirectory();
+  EditorDirectory(const EditorDirectory &) = delete;
+  EditorDirectory &operator=(const EditorDirectory &) = delete;
+
+  const std::filesystem::path &Path() const { return path; }
+  std::filesystem::path Settings() const { return path / "Tessoro.ini"; }
+  void WriteSettings(const std::string &content) const;
 
 private:
-  std::filesystem::path numberFile;
-  std::unique_ptr<ChildProcess> server;
-  std::string name;
+  const std::filesystem::path path;
 };
 
-// Runs in a directory of its own, in which its settings name these ports. The constructor returns
-// when the main window can be worked, and throws if it never comes.
+// One run of the program, from start to end.
 class WindowedEditor {
 public:
-  WindowedEditor(int outPort, int inPort);
+  WindowedEditor(const VirtualDisplay &shownOn, const EditorDirectory &place,
+                 const std::vector<std::string> &environment = {});
+  // Ends it.
   ~WindowedEditor();
   WindowedEditor(const WindowedEditor &) = delete;
   WindowedEditor &operator=(const WindowedEditor &) = delete;
 
-  // Clicks in the middle of a control of the main form.
-  void Click(const Control &control);
-  // Key names of X, as "1 2 BackSpace alt+f".
-  void PressKeys(const std::string &keys);
-  void QuitByMenu();
-  // Waits for a message box of that title and gives it the keys.
-  void FocusBox(const std::string &title);
+  // Where the controls are; the forms wait for theirs.
+  const Application &Design() const { return design.app; }
+  ShownForm MainForm() const;
+  ShownForm PortForm() const;
+  ShownForm Hint() const;
+
+  // Waits for a message box of exactly that title, presses the key, and waits until it has gone.
+  void AnswerBox(const std::string &title, const std::string &key = "Return") const;
+  bool ShowsBox(const std::string &title) const;
+  // The hint comes up half a second after the start, over all else.
+  void CloseHint() const;
+  void OpenPortFormByMenu() const;
+  // In the port form, from lists that show nothing yet, and closes it by its button.
+  void ChoosePorts(int outPort, int inPort) const;
+  // Ends without writing the settings.
+  void QuitByMenu() const;
+  // As the close control of the window does.
+  void CloseMainWindow() const;
   // Nothing if it goes on running.
   std::optional<int> ExitStatus();
 
 private:
-  std::string Do(const std::string &command) const;
-  std::string WaitForWindow(const std::string &titlePattern) const;
-  void MeasureMenu();
-
-  VirtualDisplay display;
-  std::filesystem::path directory;
+  const VirtualDisplay &display;
+  const TestRun design;
   std::unique_ptr<ChildProcess> program;
-  std::string window;
-  int heightOfMenu = 0;
 };
 
 } // namespace Tessoro::Tests

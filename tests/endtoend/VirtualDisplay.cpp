@@ -1,0 +1,154 @@
+#include "tests/endtoend/VirtualDisplay.hpp"
+
+#include "tests/endtoend/Waiting.hpp"
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+namespace Tessoro::Tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string At(Point place) { return std::to_string(place.x) + " " + std::to_string(place.y); }
+
+std::string PointingAt(const Spot &spot) {
+  const std::string within = spot.window.empty() ? "" : "--window " + spot.window + " ";
+  return "mousemove " + within + At(spot.place);
+}
+
+// Of a list as "X=3", line by line.
+std::string Entry(const std::string &list, const std::string &key) {
+  const std::size_t begin = list.find(key + "=");
+  if (begin == std::string::npos)
+    throw std::runtime_error("no " + key + " in: " + list);
+  const std::size_t value = begin + key.size() + 1;
+  return list.substr(value, list.find('\n', value) - value);
+}
+
+using Connection = std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)>;
+
+xcb_atom_t Atom(xcb_connection_t *connection, std::string_view name) {
+  const auto request =
+      xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+  const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+      xcb_intern_atom_reply(connection, request, nullptr), &std::free);
+  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+} // namespace
+
+VirtualDisplay::VirtualDisplay() : numberFile(NewTestDirectory() / "number") {
+  // Without -noreset it begins anew, and turns others away meanwhile, whenever the last has gone.
+  const std::string size = std::to_string(Width) + "x" + std::to_string(Height) + "x24";
+  server = std::make_unique<ChildProcess>(
+      std::vector<std::string>{"sh", "-c",
+                               "exec Xvfb -noreset -displayfd 3 -screen 0 " + size +
+                                   " -nolisten tcp 3>" + numberFile.string()});
+  WaitFor("an X server", [this] {
+    std::ifstream file(numberFile);
+    std::string number;
+    if (!std::getline(file, number) || file.eof())
+      return false; // the number isn't whole before its line ends
+    name = ":" + number;
+    return true;
+  });
+}
+
+VirtualDisplay::~VirtualDisplay() {
+  std::error_code ignored;
+  fs::remove_all(numberFile.parent_path(), ignored);
+}
+
+std::string VirtualDisplay::Do(const std::string &command) const {
+  std::string output =
+      OutputOf("DISPLAY=" + name + " timeout 10 xdotool " + command + " 2>/dev/null");
+  while (!output.empty() && output.back() == '\n')
+    output.pop_back();
+  return output;
+}
+
+std::string VirtualDisplay::WindowCalled(const std::string &title) const {
+  return Do("search --onlyvisible --name '" + title + "'");
+}
+
+std::string VirtualDisplay::Titles() const {
+  return Do("search --onlyvisible --name . getwindowname %@");
+}
+
+std::string VirtualDisplay::WaitForWindow(const std::string &title) const {
+  std::string window;
+  WaitFor("a window called " + title, [&] {
+    window = WindowCalled(title);
+    return !window.empty();
+  });
+  return window;
+}
+
+void VirtualDisplay::WaitUntilGone(const std::string &title) const {
+  WaitFor("the end of " + title, [&] { return WindowCalled(title).empty(); });
+}
+
+Area VirtualDisplay::AreaOf(const std::string &window) const {
+  const std::string geometry = Do("getwindowgeometry --shell " + window);
+  const auto number = [&](const std::string &key) { return std::stoi(Entry(geometry, key)); };
+  return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
+}
+
+void VirtualDisplay::Move(const std::string &window, Point leftTop) const {
+  Do("windowmove " + window + " " + At(leftTop));
+  WaitFor("a window in its place", [&] {
+    const Area area = AreaOf(window);
+    return area.left == leftTop.x && area.top == leftTop.y;
+  });
+}
+
+void VirtualDisplay::Close(const std::string &window) const {
+  const Connection connection(xcb_connect(name.c_str(), nullptr), &xcb_disconnect);
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = 32;
+  message.window = static_cast<xcb_window_t>(std::stoul(window));
+  message.type = Atom(connection.get(), "WM_PROTOCOLS");
+  message.data.data32[0] = Atom(connection.get(), "WM_DELETE_WINDOW");
+  const auto request =
+      xcb_send_event_checked(connection.get(), 0, message.window, XCB_EVENT_MASK_NO_EVENT,
+                             reinterpret_cast<const char *>(&message));
+  const std::unique_ptr<xcb_generic_error_t, decltype(&std::free)> error(
+      xcb_request_check(connection.get(), request), &std::free);
+  if (error)
+    throw std::runtime_error("no window to close: " + window);
+}
+
+void VirtualDisplay::Focus(const std::string &window) const {
+  WaitFor("the focus of " + window, [&] {
+    return Do("windowraise " + window + " windowfocus " + window + " getwindowfocus") == window;
+  });
+}
+
+void VirtualDisplay::PointAt(const Spot &spot) const { Do(PointingAt(spot)); }
+
+void VirtualDisplay::Press(const Spot &spot) const { Do(PointingAt(spot) + " mousedown 1"); }
+
+void VirtualDisplay::ReleaseButton() const { Do("mouseup 1"); }
+
+void VirtualDisplay::Click(const Spot &spot) const { Do(PointingAt(spot) + " click 1"); }
+
+void VirtualDisplay::DoubleClick(const Spot &spot) const {
+  Do(PointingAt(spot) + " click --repeat 2 --delay 20 1");
+}
+
+std::string VirtualDisplay::WindowUnderPointer() const {
+  return Entry(Do("getmouselocation --shell"), "WINDOW");
+}
+
+void VirtualDisplay::PressKeys(const std::string &keys) const { Do("key --delay 8 " + keys); }
+
+void VirtualDisplay::HoldKey(const std::string &key) const { Do("keydown " + key); }
+
+void VirtualDisplay::LetGoOfKey(const std::string &key) const { Do("keyup " + key); }
+
+} // namespace Tessoro::Tests
