@@ -17,9 +17,10 @@ namespace {
 [[noreturn]] void BecomeServer(int numberPipe) {
   const int nowhere = open("/dev/null", O_WRONLY);
   dup2(nowhere, STDERR_FILENO);
-  // The server picks a number that is free, and tells it when it is ready.
-  execlp("Xvfb", "Xvfb", "-displayfd", std::to_string(numberPipe).c_str(), "-screen", "0",
-         "1280x1024x24", "-nolisten", "tcp", nullptr);
+  // The server picks a number that is free, and tells it when it is ready. It does not begin anew
+  // whenever a window has gone.
+  execlp("Xvfb", "Xvfb", "-noreset", "-displayfd", std::to_string(numberPipe).c_str(), "-screen",
+         "0", "1280x1024x24", "-nolisten", "tcp", nullptr);
   _exit(EXIT_FAILURE);
 }
 
