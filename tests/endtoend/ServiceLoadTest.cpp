@@ -35,7 +35,7 @@ constexpr auto MoveInterval = 16ms;
 constexpr int MovesPerDrag = 40;
 constexpr int MovesPerLoad = 150;
 
-constexpr std::size_t SteadyHeapBytes = 256 * 1024;
+constexpr std::size_t SteadyHeapBytes = 256UL * 1024;
 
 Clock::duration Duration() {
   const char *const minutes = std::getenv("TESSORO_LOAD_MINUTES");

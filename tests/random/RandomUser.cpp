@@ -153,7 +153,7 @@ std::string RandomUser::ActOnBar() {
   if (bar == nullptr)
     return Act();
   const int lowest = std::min(bar->Min(), bar->Max());
-  const auto values = static_cast<std::size_t>(std::abs(bar->Max() - bar->Min()) + 1);
+  const auto values = static_cast<std::size_t>(std::abs(bar->Max() - bar->Min())) + 1;
   return "scroll " + NameOf(*bar) + " " +
          std::to_string(lowest + static_cast<int>(Draw(random, values)));
 }

@@ -62,7 +62,7 @@ BrokenSession Shrunk(BrokenSession broken, const std::string &folder, const Extr
 void Keep(const BrokenSession &broken, const std::string &folder) {
   std::filesystem::create_directories(folder);
   for (const auto &[name, content] : broken.machine)
-    std::ofstream(folder + "/" + name, std::ios::binary) << content;
+    std::ofstream(std::filesystem::path(folder) / name, std::ios::binary) << content;
   std::ofstream script(folder + "/session.script");
   script << "# Seed " << broken.seed << ", " << broken.breach.rule << ": " << broken.breach.how
          << '\n';

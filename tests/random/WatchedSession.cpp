@@ -51,7 +51,7 @@ WatchedSession::WatchedSession(const Files &machine, const std::string &folder, 
   files.folders = FoldersDownTo(folder);
   files.workingDirectory = folder;
   for (const auto &[name, content] : machine)
-    files.contents[folder + "/" + name] = content;
+    files.contents[std::string(folder).append("/").append(name)] = content;
   watch.onTextChange = [this](const TextBox &box) {
     if (HasFraction(box) && IsOnController(box))
       act.fractionOnController = true;
