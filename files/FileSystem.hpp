@@ -2,7 +2,8 @@
 //
 // Names are single-byte texts, Windows-1252. Every operation fails with the number that the user is
 // to see: 52 for an empty name, 53 for a file that isn't there, 76 where a folder on the way to it
-// isn't, 75 for all else that the system refuses, such as a folder in place of a file.
+// isn't, 75 for all else that the system refuses, such as a folder in place of a file, and for what
+// could keep the program waiting, such as a pipe.
 #pragma once
 
 #include "surface/Failure.hpp"

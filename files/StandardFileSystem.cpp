@@ -35,6 +35,11 @@ fs::file_type TypeOf(const fs::path &path) {
 // A zero byte ends a name for the system, which would take it for that of another file.
 bool HasZeroByte(const std::string &name) { return name.find('\0') != std::string::npos; }
 
+// Opening one of these waits for a program at its other end, which may never come.
+bool HasOtherEnd(fs::file_type type) {
+  return type == fs::file_type::fifo || type == fs::file_type::socket;
+}
+
 // What a file name must be, and the path that it names.
 fs::path FilePath(const std::string &name) {
   if (name.empty() || HasZeroByte(name))
@@ -43,14 +48,16 @@ fs::path FilePath(const std::string &name) {
   const fs::path folder = path.parent_path();
   if (!folder.empty() && TypeOf(folder) != fs::file_type::directory)
     throw Failure(FailureCode::PathNotFound);
-  if (TypeOf(path) == fs::file_type::directory)
+  if (const fs::file_type type = TypeOf(path);
+      type == fs::file_type::directory || HasOtherEnd(type))
     throw Failure(FailureCode::PathFileAccessError);
   return path;
 }
 
 class StandardInputFile : public InputFile {
 public:
-  explicit StandardInputFile(const fs::path &path) : stream(path, std::ios::binary) {
+  explicit StandardInputFile(const fs::path &path)
+      : hasEnd(TypeOf(path) == fs::file_type::regular), stream(path, std::ios::binary) {
     if (!stream)
       throw Failure(FailureCode::PathFileAccessError);
   }
@@ -65,6 +72,8 @@ public:
 
 private:
   void Fill() {
+    if (!hasEnd)
+      throw Failure(FailureCode::PathFileAccessError);
     stream.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
     if (stream.bad())
       throw Failure(FailureCode::PathFileAccessError);
@@ -72,6 +81,8 @@ private:
     next = 0;
   }
 
+  // Only of files; a device may go on for ever.
+  const bool hasEnd;
   std::ifstream stream;
   std::array<char, 4096> buffer{};
   std::size_t filled = 0;

@@ -125,8 +125,12 @@ void DirListBox::ResetToDesign() {
 
 void DirListBox::SetPath(std::string_view text) {
   const std::string newPath = PlainPath(text, FilesOf(*this).Separator());
-  if (!FilesOf(*this).FolderExists(newPath))
+  if (!IsFolder(newPath))
     throw Failure(FailureCode::PathNotFound);
+  GoTo(newPath);
+}
+
+void DirListBox::GoTo(const std::string &newPath) {
   if (newPath == path)
     return;
   ShowFolder(newPath);
@@ -160,8 +164,9 @@ bool DirListBox::IsFolder(std::string_view text) const {
 
 Reach DirListBox::UserChoose(std::string_view chosen) {
   return Perform([this, chosen] {
-    if (IsFolder(chosen))
-      SetPath(chosen);
+    // Asked once only: a folder that goes at this very moment fails nobody.
+    if (const std::string folder = PlainPath(chosen, FilesOf(*this).Separator()); IsFolder(folder))
+      GoTo(folder);
     else
       Refresh(); // it has gone since the list was read
   });

@@ -63,6 +63,7 @@ public:
   std::function<void()> onChange;
 
 private:
+  void GoTo(const std::string &newPath);
   void ShowFolder(const std::string &folder);
 
   std::vector<std::string> list;

@@ -7,6 +7,7 @@ packagesToBuild=(
 packagesToRun=(fonts-dejavu-core)
 packagesToTest=(libgtest-dev libgmock-dev libxcb1-dev jackd2 xvfb xdotool)
 packagesToBench=(libbenchmark-dev jackd2 xvfb)
+packagesToCover=(clang llvm)
 packagesToFormat=(clang-format)
 packagesToTidy=(clang-tidy)
 packagesToFuzz=(clang)

@@ -82,6 +82,8 @@ MidiResult MidiDouble::TakeFailure(std::string_view operation) {
 MidiResult MidiDouble::Call(std::string_view operation, std::string_view arguments,
                             const Work &work) {
   MidiResult result = TakeFailure(operation);
+  if (onCall && result == MidiResultCode::Success)
+    result = onCall(operation);
   if (result == MidiResultCode::Success)
     result = work();
   if (result == MidiResultCode::Success && FindOperation(operation)->traced == Traced::WhenItFails)

@@ -26,6 +26,9 @@ public:
   // The next so many calls of the operation, or all, return the code and do nothing else. Replaces
   // what was said of it before; code 0 ends it.
   void Fail(std::string_view operation, MidiResult code, std::optional<std::uint64_t> count);
+  // If set, asked at each call of an operation that can fail; another result than success is what
+  // the call comes to.
+  std::function<MidiResult(std::string_view operation)> onCall;
 
   MidiResult midiOutOpen(MidiHandle &handle, std::int32_t device, std::uint32_t callback,
                          std::uint32_t instance, std::uint32_t flags) override;

@@ -3,10 +3,13 @@
 namespace Tessoro {
 
 Session::Session(const std::string &programDirectory, std::ostream &destination)
+    : Session(programDirectory, destination, machineFiles) {}
+
+Session::Session(const std::string &programDirectory, std::ostream &destination, FileSystem &files)
     : Trace(destination), Midi(Trace), Screen(Trace), App({.midi = Midi,
                                                            .screen = Screen,
                                                            .clock = Clock,
-                                                           .files = Files,
+                                                           .files = files,
                                                            .random = Random,
                                                            .programPath = programDirectory}) {}
 

@@ -18,9 +18,13 @@ class MouseControl;
 
 // Several can live in one process, side by side.
 class Session {
+  StandardFileSystem machineFiles;
+
 public:
   // The directory is where the settings file stands, as a text of the model.
   Session(const std::string &programDirectory, std::ostream &destination);
+  // On other files than the machine's.
+  Session(const std::string &programDirectory, std::ostream &destination, FileSystem &files);
 
   // True if a user can act there now; if not, the trace says why.
   bool IsReached(Reach reach);
@@ -30,7 +34,6 @@ public:
   HeadlessScreen Screen;
   HeadlessClock Clock;
   QueuedRandomNumbers Random;
-  StandardFileSystem Files;
   Application App;
 
   bool Started = false;

@@ -11,11 +11,11 @@
 //
 // In all of them <directory> stands for the fresh directory, but not in the content of folders.
 #include "face/headless/CommandLine.hpp"
+#include "tests/support/FreshDirectory.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -87,36 +87,12 @@ std::string Difference(const std::string &expectedText, const std::string &actua
   return report.str();
 }
 
-// The working directory and the program's own while one script is played.
-class FreshDirectory {
-public:
-  FreshDirectory() : before(fs::current_path()) {
-    std::string name = (fs::temp_directory_path() / "tessoro-behaviour-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      throw fs::filesystem_error("no fresh directory", name, {});
-    path = name;
-    fs::current_path(path);
-  }
-  ~FreshDirectory() {
-    fs::current_path(before);
-    fs::remove_all(path);
-  }
-  FreshDirectory(const FreshDirectory &) = delete;
-  FreshDirectory &operator=(const FreshDirectory &) = delete;
-
-  const fs::path &Path() const { return path; }
-
-private:
-  fs::path before;
-  fs::path path;
-};
-
 class BehaviourTest : public testing::Test {
 public:
   explicit BehaviourTest(fs::path scriptFile) : script(std::move(scriptFile)) {}
 
   void TestBody() override {
-    const FreshDirectory directory;
+    const Tessoro::FreshDirectory directory;
     const std::string directoryName = directory.Path().string();
     const fs::path settings = directory.Path() / "Tessoro.ini";
     if (fs::exists(Beside(".files")))

@@ -11,6 +11,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace Tessoro::Tests {
@@ -56,6 +57,17 @@ public:
     port.openVirtualPort("in");
   }
 
+  // Listens to what another client's port gives.
+  Synth(const std::string &client, const std::string &source) : port(RtMidi::UNIX_JACK, client) {
+    port.ignoreTypes(false, false, false);
+    port.setCallback(&Synth::Take, this);
+    unsigned number = 0;
+    while (number < port.getPortCount() && port.getPortName(number) != source) {
+      ++number;
+    }
+    port.openPort(number, "in");
+  }
+
   ~Synth() { LetTheNewsPass(); }
   Synth(const Synth &) = delete;
   Synth &operator=(const Synth &) = delete;
@@ -63,6 +75,12 @@ public:
   std::vector<Arrival> Arrivals() {
     const std::lock_guard lock(mutex);
     return arrivals;
+  }
+
+  // What has come since it was last taken.
+  std::vector<Arrival> TakeArrivals() {
+    const std::lock_guard lock(mutex);
+    return std::exchange(arrivals, {});
   }
 
   std::vector<Bytes> Messages() {

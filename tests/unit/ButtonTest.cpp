@@ -83,5 +83,27 @@ TEST_F(CommandButtonTest, ALoadTakesItsCaptionBack) {
   EXPECT_EQ(form.Button.Caption(), "&Press");
 }
 
+TEST_F(CheckBoxTest, AColourHas24Bits) {
+  for (PropertyEntry &entry : form.Check.Properties()) {
+    if (entry.name != "BackColor" && entry.name != "ForeColor")
+      continue;
+    entry.set(16777215.0);
+    EXPECT_EQ(entry.get(), Value(16777215.0)) << entry.name;
+    EXPECT_EQ(FailureOf([&] { entry.set(16777216.0); }), 380) << entry.name;
+    EXPECT_EQ(FailureOf([&] { entry.set(-1.0); }), 380) << entry.name;
+  }
+}
+
+TEST_F(CommandButtonTest, ControlsThatNobodyListensToTakeEachAct) {
+  TestForm silent(run.app);
+  silent.Show();
+  EXPECT_EQ(silent.Button.UserClick(), Reach::Done);
+  EXPECT_EQ(silent.Check.UserClick(), Reach::Done);
+  EXPECT_EQ(silent.Ground.UserClick(), Reach::Done);
+  silent.Ticker.Tick();
+  EXPECT_EQ(silent.Check.Value(), 1);
+  EXPECT_FALSE(run.app.HasEnded());
+}
+
 } // namespace
 } // namespace Tessoro

@@ -273,5 +273,41 @@ TEST(Catalogue, HasAControlSendANumberUnlessAControllerGoesInItsPlace) {
         << row.number;
 }
 
+struct DisplayClaim {
+  Display display;
+  int wire;
+  const char *text;
+};
+
+TEST(Catalogue, TellsWireValuesAsTheControlsShowThem) {
+  constexpr DisplayClaim claims[] = {
+      {Display::Wire, 100, "100"},
+      {Display::Signed, 0, "-64"},
+      {Display::Signed, 64, "0"},
+      {Display::Signed, 127, "+63"},
+      {Display::Octave, 112, "1/2\""},
+      {Display::Octave, 113, "113"},
+      {Display::Shape, 2, "Saw"},
+      {Display::FilterType, 0, "---- Bypass"},
+      {Display::ModSource, 13, "Pressure"},
+      {Display::FmSource, 11, "11 Env4"},
+      {Display::FmSource, 12, "12"},
+      {Display::SubFrequency, 31, "32"},
+      {Display::GlideMode, 3, "Fingered Gliss."},
+      {Display::LfoShape, 5, "05 S&H"},
+      {Display::Checked, 0, "off"},
+      {Display::Checked, 1, "on"},
+      {Display::Allocation, 17, "Mono, unisono Dual"},
+      {Display::Allocation, 80, "Poly, unisono 6x"},
+      {Display::Allocation, 112, "Poly, unisono 7"},
+      {Display::Routing, 0, "parallel"},
+      {Display::Routing, 1, "serial"},
+      {Display::Character, 65, "'A'"},
+      {Display::Character, 31, "31"},
+  };
+  for (const DisplayClaim &claim : claims)
+    EXPECT_EQ(DisplayText(claim.display, claim.wire), claim.text);
+}
+
 } // namespace
 } // namespace Tessoro

@@ -119,5 +119,20 @@ TEST_F(ComboBoxTest, ALoadTakesAwayTheAddedItemsAndTheSelection) {
   EXPECT_THAT(events, IsEmpty());
 }
 
+TEST_F(ComboBoxTest, TypingStopsWhereTheListGoesOutOfReach) {
+  form.Combo.SetText("");
+  form.Combo.onChange = [this] { form.Combo.SetEnabled(form.Combo.Text().size() < 2); };
+  EXPECT_EQ(form.Combo.UserType("abc"), Reach::Disabled);
+  EXPECT_EQ(form.Combo.Text(), "ab");
+}
+
+TEST_F(ComboBoxTest, TypingStopsWhereTheProgramEnds) {
+  form.Combo.SetText("");
+  form.Combo.onChange = [] { throw Failure(FailureCode::TypeMismatch); };
+  form.Combo.UserType("abc");
+  EXPECT_TRUE(run.app.HasEnded());
+  EXPECT_EQ(form.Combo.Text(), "a");
+}
+
 } // namespace
 } // namespace Tessoro

@@ -106,5 +106,12 @@ TEST_F(FrameTest, AClickReachesItsHandler) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(LineTest, AnEndBeyondSinglePrecisionFails) {
+  for (const PropertyEntry &entry : form.Slope.Properties())
+    if (entry.name == "X1") {
+      EXPECT_EQ(FailureOf([&] { entry.set(1e39); }), 6);
+    }
+}
+
 } // namespace
 } // namespace Tessoro

@@ -138,5 +138,9 @@ TEST_F(FileListsTest, TheUserOpensFoldersAndDrives) {
   EXPECT_FALSE(form.Drive1.HasDrive("/media"));
 }
 
+TEST_F(FileListsTest, ADoubleClickThatNobodyListensToIsTaken) {
+  EXPECT_EQ(form.File1.UserDblClick(), Reach::Done);
+}
+
 } // namespace
 } // namespace Tessoro

@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Tessoro {
@@ -133,6 +134,19 @@ TEST_F(StandardFileSystemTest, AFolderInPlaceOfAFileIsRefused) {
   EXPECT_EQ(WriteFailure(folder.string() + "/"), 75);
   EXPECT_EQ(ReadFailure("/"), 75);
   EXPECT_EQ(ReadFailure("."), 75);
+}
+
+TEST_F(StandardFileSystemTest, APipeIsRefusedSoThatNobodyWaitsAtIt) {
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(ReadFailure(In("pipe")), 75);
+  EXPECT_EQ(WriteFailure(In("pipe")), 75);
+  fs::create_symlink(folder / "pipe", folder / "link");
+  EXPECT_EQ(ReadFailure(In("link")), 75);
+}
+
+TEST_F(StandardFileSystemTest, ADeviceCanBeOpenedButIsNotReadForEver) {
+  const std::unique_ptr<InputFile> file = files.OpenForReading("/dev/zero");
+  EXPECT_EQ(FailureOf([&] { file->NextByte(); }), 75);
 }
 
 TEST_F(StandardFileSystemTest, WhatElseTheSystemRefusesIsAnAccessError) {

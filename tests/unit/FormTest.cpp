@@ -183,5 +183,15 @@ TEST_F(FormTest, TwoRunsLiveSideBySide) {
   EXPECT_EQ(other.app.F_Tessoro.TextF1_cutoff.Text(), "?");
 }
 
+TEST_F(FormTest, EveryPropertyTakesWhatItGives) {
+  for (Control *control : form.Controls())
+    for (const PropertyEntry &entry : control->Properties()) {
+      const Value value = entry.get();
+      if (entry.set)
+        entry.set(value);
+      EXPECT_EQ(entry.get(), value) << control->Name() << "." << entry.name;
+    }
+}
+
 } // namespace
 } // namespace Tessoro

@@ -87,5 +87,13 @@ TEST_F(TimerTest, StopsWithItsFormAndBeginsAnewWithIt) {
   EXPECT_EQ(ticks, 1);
 }
 
+TEST_F(TimerTest, StartingOneThatRunsDoesNotBeginAnew) {
+  form.Show();
+  run.clock.Pass(400);
+  form.Ticker.SetEnabled(true);
+  run.clock.Pass(100);
+  EXPECT_EQ(ticks, 1);
+}
+
 } // namespace
 } // namespace Tessoro
