@@ -3,6 +3,7 @@
 #include "surface/Form.hpp"
 
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -133,6 +134,11 @@ void WindowedEditor::PressKeys(const std::string &keys) { Do("key --delay 8 " + 
 void WindowedEditor::QuitByMenu() {
   PressKeys("alt+f");
   PressKeys("q");
+}
+
+std::string WindowedEditor::Settings() const {
+  std::ifstream file(directory / "Tessoro.ini", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::optional<int> WindowedEditor::ExitStatus() { return program->ExitStatusWithin(5s); }

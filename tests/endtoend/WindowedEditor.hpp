@@ -19,6 +19,9 @@ public:
   VirtualDisplay(const VirtualDisplay &) = delete;
   VirtualDisplay &operator=(const VirtualDisplay &) = delete;
 
+  // The server dies.
+  void Vanish() { server.reset(); }
+
   // As ":7".
   const std::string &Name() const { return name; }
 
@@ -42,6 +45,9 @@ public:
   // Key names of X, as "1 2 BackSpace alt+f".
   void PressKeys(const std::string &keys);
   void QuitByMenu();
+  void LoseDisplay() { display.Vanish(); }
+  // The settings file as it stands.
+  std::string Settings() const;
   // Waits for a message box of that title and gives it the keys.
   void FocusBox(const std::string &title);
   // Nothing if it goes on running.
