@@ -22,7 +22,7 @@ public:
   TextBox TextFilename {*this, "TextFilename", { 390, 4095, 3400,  330}, {.text = "*.tss", .toolTip = "Enter a name for your sound filename", .says = "File name"}};
   CommandButton C_File {*this, "C_File",       {4125, 3090, 1350,  555}, {}};
   CommandButton Command1{*this, "Command1",    {4125, 3885, 1350,  555}, {.caption = "&Exit"}};
-  Label LabelPath      {*this, "LabelPath",    { 360, 4485, 5130,  270}, {}};
+  Label LabelPath      {*this, "LabelPath",    { 360, 4485, 5130,  270}, {.style = LabelStyle::Readout}};
   // clang-format on
 
 protected:

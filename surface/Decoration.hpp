@@ -5,7 +5,8 @@
 
 namespace Tessoro {
 
-enum class LabelStyle : std::uint8_t { Plain, Heading, Readout, Title };
+// A faded label belongs to a control that can't be used.
+enum class LabelStyle : std::uint8_t { Plain, Faded, Heading, Readout, Title };
 enum class LabelAlign : std::uint8_t { Left, Center, Right };
 
 struct LabelDesign {

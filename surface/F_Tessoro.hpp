@@ -46,7 +46,7 @@ public:
   void WriteINI() {}
 
   // clang-format off
-  CommandButton InitSnd{*this, "InitSnd", {9540, 6105, 2460, 510}, {.caption = "Init sound", .toolTip = "Resets parameters to the microQ init sound! Only the parameters displayed on this form are changed - it is not a complete sound init!"}};
+  CommandButton InitSnd{*this, "InitSnd", {9540, 6090, 2445, 480}, {.caption = "Init sound", .toolTip = "Resets parameters to the microQ init sound! Only the parameters displayed on this form are changed - it is not a complete sound init!"}};
   // clang-format on
   Timer Timer1{*this, "Timer1", {.interval = 500}};
 

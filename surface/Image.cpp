@@ -31,7 +31,7 @@ Image::Image(Form &form, std::string_view name, Place place, const ImageDesign &
                     .says = design.says,
                     .enabled = design.enabled,
                     .visible = design.visible}),
-      picture(design.picture) {}
+      picture(design.picture), accessKey(design.accessKey) {}
 
 PropertyEntries Image::Properties() {
   PropertyEntries entries = Control::Properties();

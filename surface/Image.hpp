@@ -35,6 +35,8 @@ struct ImageDesign {
   std::string_view says = {};
   bool enabled = true;
   bool visible = true;
+  // As "Alt+R": clicks the image, which can't take the focus.
+  std::string_view accessKey = {};
 };
 
 class Image : public MouseControl {
@@ -44,6 +46,7 @@ public:
   ControlType Type() const override { return ControlType::Image; }
   PropertyEntries Properties() override;
   std::string_view Picture() const { return picture; }
+  std::string_view AccessKey() const { return accessKey; }
 
   // The events alone, behind the presses and releases that go with them.
   Reach UserClick();
@@ -54,6 +57,7 @@ public:
 
 private:
   const std::string_view picture;
+  const std::string_view accessKey;
 };
 
 struct NoteKeyDesign {

@@ -29,8 +29,8 @@ private:
 
 public:
   // clang-format off
-  CommandButton C_OSC_shuffle{form, "C_OSC_shuffle", {10575, 5280, 1455, 300}, {.caption = "shuffle 1", .toolTip = "Shuffles all OSC parameters depending on the shuffle level (1-3)", .enabled = false}};
-  HScrollBar HScrollShuffleOSC{form, "HScrollShuffleOSC", {10575, 5610, 1455, 255}, {.min = 1, .max = 3, .value = 1, .says = "Shuffle level"}};
+  CommandButton C_OSC_shuffle{form, "C_OSC_shuffle", {10620, 5505, 810, 300}, {.caption = "shuffle 1", .toolTip = "Shuffles all OSC parameters depending on the shuffle level (1-3)", .enabled = false}};
+  HScrollBar HScrollShuffleOSC{form, "HScrollShuffleOSC", {11475, 5505, 510, 300}, {.min = 1, .max = 3, .value = 1, .says = "Shuffle level"}};
   // clang-format on
 };
 

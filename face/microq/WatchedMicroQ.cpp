@@ -1,5 +1,7 @@
 #include "face/microq/WatchedMicroQ.hpp"
 
+#include "face/qt/Desk.hpp"
+
 namespace Tessoro {
 
 WatchedMicroQ::WatchedMicroQ() {
@@ -29,6 +31,8 @@ void WatchedMicroQ::BringUp() {
   if (!window)
     window = std::make_unique<MicroQWindow>(microQ, inbox, tr("microQ (built-in)"));
   window->ShowStatus(tr("The port is open"));
+  if (!window->isVisible())
+    Desk::StandBesideOthers(*window);
   window->show();
 }
 

@@ -5,11 +5,14 @@
 #include "face/qt/LabelView.hpp"
 #include "face/qt/PointerViews.hpp"
 #include "face/qt/ScrollBarView.hpp"
+#include "face/qt/Text.hpp"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace Tessoro {
 
@@ -34,15 +37,42 @@ private:
   ScrollBarView &bar;
 };
 
-class ListFieldDescription : public QAccessibleWidget {
+// Readers learn the chosen item as they learn the text of a box.
+class ListFieldDescription : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
   explicit ListFieldDescription(ComboBoxView &view)
       : QAccessibleWidget(&view, QAccessible::ComboBox), field(view) {
     addControllingSignal(QStringLiteral("textChanged(QString)"));
   }
 
+  void *interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(this)
+                                              : QAccessibleWidget::interface_cast(type);
+  }
   QString text(QAccessible::Text kind) const override {
     return kind == QAccessible::Value ? field.text() : QAccessibleWidget::text(kind);
+  }
+  QString text(int begin, int end) const override { return field.text().mid(begin, end - begin); }
+  int characterCount() const override { return static_cast<int>(field.text().size()); }
+  int cursorPosition() const override { return field.cursorPosition(); }
+  void setCursorPosition(int position) override { field.setCursorPosition(position); }
+  int selectionCount() const override { return field.hasSelectedText() ? 1 : 0; }
+  void selection(int /*index*/, int *begin, int *end) const override {
+    *begin = field.hasSelectedText() ? field.selectionStart() : 0;
+    *end = field.hasSelectedText() ? field.selectionEnd() : 0;
+  }
+  void addSelection(int begin, int end) override { field.setSelection(begin, end - begin); }
+  void removeSelection(int /*index*/) override { field.deselect(); }
+  void setSelection(int /*index*/, int begin, int end) override { addSelection(begin, end); }
+  QRect characterRect(int /*offset*/) const override { return rect(); }
+  int offsetAtPoint(const QPoint &point) const override {
+    return field.cursorPositionAt(field.mapFromGlobal(point));
+  }
+  void scrollToSubstring(int begin, int /*end*/) override { field.setCursorPosition(begin); }
+  QString attributes(int /*offset*/, int *begin, int *end) const override {
+    *begin = 0;
+    *end = characterCount();
+    return {};
   }
   void setText(QAccessible::Text kind, const QString &text) override {
     if (kind != QAccessible::Value)
@@ -72,17 +102,50 @@ private:
   ComboBoxView &field;
 };
 
+// What is only for the mouse can be pressed by a reader.
+class PressedDescription : public QAccessibleWidget {
+public:
+  PressedDescription(QWidget &widget, QAccessible::Role role, std::function<void()> onPress,
+                     QString key = {})
+      : QAccessibleWidget(&widget, role), press(std::move(onPress)), accessKey(std::move(key)) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Accelerator ? accessKey : QAccessibleWidget::text(kind);
+  }
+  QStringList actionNames() const override {
+    return widget()->isEnabled() ? QStringList(pressAction()) : QStringList();
+  }
+  void doAction(const QString &name) override {
+    if (name == pressAction())
+      press();
+  }
+
+private:
+  const std::function<void()> press;
+  const QString accessKey;
+};
+
+// A picture that can be clicked is a button; a knob is dragged, and its box is the way to its
+// value.
+QAccessibleInterface *DescribeImage(ImageView &image) {
+  if (!image.Shown().onClick)
+    return new QAccessibleWidget(&image, QAccessible::Graphic);
+  return new PressedDescription(
+      image, QAccessible::Button, [&image] { image.Clicked(); },
+      FromModel(image.Shown().AccessKey()));
+}
+
 QAccessibleInterface *Describe(const QString & /*className*/, QObject *object) {
   if (auto *bar = dynamic_cast<ScrollBarView *>(object))
     return new BarDescription(*bar);
   if (auto *field = dynamic_cast<ComboBoxView *>(object))
     return new ListFieldDescription(*field);
   if (auto *image = dynamic_cast<ImageView *>(object))
-    return new QAccessibleWidget(image, QAccessible::Graphic);
+    return DescribeImage(*image);
   if (auto *key = dynamic_cast<NoteKeyView *>(object))
-    return new QAccessibleWidget(key, QAccessible::Button, key->accessibleName());
+    return new PressedDescription(*key, QAccessible::Button, [key] { key->Strike(); });
   if (auto *frame = dynamic_cast<FrameView *>(object))
-    return new QAccessibleWidget(frame, QAccessible::Grouping);
+    return new QAccessibleWidget(frame, QAccessible::Grouping, frame->window()->windowTitle());
   return nullptr;
 }
 

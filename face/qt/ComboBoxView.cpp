@@ -68,7 +68,7 @@ void ComboBoxView::OpenList() {
 }
 
 QRect ComboBoxView::ArrowArea() const {
-  const int side = std::min(height() * 9 / 10, width() / 3);
+  const int side = std::min(height() * 7 / 10, width() / 3);
   return {width() - side, 0, side, height()};
 }
 
@@ -81,6 +81,8 @@ void ComboBoxView::keyPressEvent(QKeyEvent *event) {
   else if (event->key() == Qt::Key_F4 ||
            (event->modifiers().testFlag(Qt::AltModifier) && (isUp || isDown)))
     OpenList();
+  else if (IsAccessKey(*event))
+    event->ignore();
   else
     QLineEdit::keyPressEvent(event);
 }

@@ -3,6 +3,7 @@
 #include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -35,6 +36,7 @@ DriveListView::DriveListView(DriveListBox &shown, const Surroundings &around, QW
     : QComboBox(parent), ControlView(shown, around), drives(shown) {
   setFocusPolicy(Qt::StrongFocus);
   setPalette(Look::Field(Colors::Navy));
+  view()->setAccessibleName(FromModel(drives.Says()));
   connect(this, &QComboBox::activated, this, [this](int index) {
     const std::string chosen = drives.List()[static_cast<std::size_t>(index)];
     Enter([&] { drives.UserChoose(chosen); });

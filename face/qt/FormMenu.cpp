@@ -27,6 +27,7 @@ bool FormMenu::IsNeededBy(const Form &form) { return !EntriesOf(form).empty(); }
 
 FormMenu::FormMenu(Form &form, const Gate &entrance, QWidget *parent)
     : QMenuBar(parent), gate(entrance) {
+  setAccessibleName(tr("Menu"));
   setNativeMenuBar(false); // the form's client area lies below it
   const std::vector<Menu *> entries = EntriesOf(form);
   for (Menu *entry : entries) {
@@ -42,6 +43,7 @@ void FormMenu::Make(Menu &entry, bool hasEntries) {
   const QString caption = entry.IsSeparator() ? QString() : FromModel(entry.Caption());
   if (hasEntries) {
     QMenu *menu = list != nullptr ? list->addMenu(caption) : addMenu(caption);
+    menu->setAccessibleName(WithoutAccessKey(caption));
     actions[&entry] = menu->menuAction();
     return;
   }

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QIcon>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -19,14 +20,18 @@ bool Has(const QStyleOption &option, QStyle::StateFlag state) {
   return option.state.testFlag(state);
 }
 
+constexpr double LineHeightAtOne = 13;
+
 // How much larger than at a zoom of 1 a widget is, by its letters.
-double ZoomOf(const QStyleOption &option) {
-  constexpr double lineHeight = 13;
-  return option.fontMetrics.height() / lineHeight;
-}
+double ZoomOf(const QStyleOption &option) { return option.fontMetrics.height() / LineHeightAtOne; }
 
 // Between a rounded edge and the text.
 int TextMargin(const QStyleOption &option) { return qRound(2 * ZoomOf(option)); }
+
+// And not one that a field brings up.
+bool IsListOnForm(const QWidget *widget) {
+  return qobject_cast<const QListWidget *>(widget) != nullptr && !widget->isWindow();
+}
 
 } // namespace
 
@@ -41,6 +46,12 @@ void FormStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
   case PE_PanelButtonCommand:
     DrawButton(*option, *painter);
     return;
+  case PE_Frame:
+    if (IsListOnForm(widget)) {
+      DrawField(*option, *painter);
+      return;
+    }
+    break;
   case PE_FrameFocusRect:
     if (qobject_cast<const QPushButton *>(widget) != nullptr)
       return; // the button's own drawing has the ring
@@ -86,10 +97,16 @@ void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 void FormStyle::DrawField(const QStyleOption &option, QPainter &painter) const {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(option.palette.color(QPalette::Base));
+  const QColor back = option.palette.color(QPalette::Base);
   const double radius = Look::CornerRadius * ZoomOf(option);
-  painter.drawRoundedRect(QRectF(option.rect), radius, radius);
+  painter.setBrush(back);
+  if (back == option.palette.color(QPalette::Window)) {
+    painter.setPen(Look::FrameColor()); // all that is seen of a field that blends into the ground
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  } else {
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(QRectF(option.rect), radius, radius);
+  }
   painter.restore();
   if (Has(option, State_HasFocus))
     Look::DrawFocusRing(painter, option.rect, radius, option.palette.color(QPalette::Text));
@@ -193,6 +210,8 @@ QRect FormStyle::subElementRect(SubElement element, const QStyleOption *option,
 
 int FormStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                            const QWidget *widget) const {
+  if (metric == PM_DefaultFrameWidth && IsListOnForm(widget))
+    return qRound(Look::CornerRadius * widget->fontMetrics().height() / LineHeightAtOne);
   const auto *bar = dynamic_cast<const ScrollBarView *>(widget); // others ask to learn their size
   if (bar == nullptr)
     return QProxyStyle::pixelMetric(metric, option, widget);
@@ -234,6 +253,7 @@ int FormStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
   case SH_ScrollBar_LeftClickAbsolutePosition:
   case SH_ScrollBar_MiddleClickAbsolutePosition:
   case SH_EtchDisabledText:
+  case SH_DialogButtonBox_ButtonsHaveIcons: // which come from the desktop and look it
     return 0;
   default:
     return QProxyStyle::styleHint(hint, option, widget, returnData);

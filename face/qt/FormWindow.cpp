@@ -1,37 +1,86 @@
 #include "face/qt/FormWindow.hpp"
 
+#include "face/qt/Desk.hpp"
 #include "face/qt/FormMenu.hpp"
 #include "face/qt/Ground.hpp"
 #include "face/qt/Keys.hpp"
 #include "face/qt/Look.hpp"
+#include "face/qt/ReadingOrder.hpp"
 #include "face/qt/Text.hpp"
 #include "face/qt/Views.hpp"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace Tessoro {
 
-FormWindow::FormWindow(Form &shown, const Surroundings &around)
+namespace {
+
+constexpr int EndOfDragMilliseconds = 180;
+
+} // namespace
+
+FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow *opener)
     : QWidget(nullptr, Qt::Window), form(shown), surroundings(around),
       ground(new Ground(shown, around.gate, this)) {
   setObjectName(QString::fromStdString(form.Name()));
   if (FormMenu::IsNeededBy(form))
     menu = new FormMenu(form, surroundings.gate, this);
   MakeControls();
-  SetZoom(1);
+  OrderTabs();
+  ListenToZoomKeys();
+  endOfDrag.setSingleShot(true);
+  endOfDrag.setInterval(EndOfDragMilliseconds);
+  connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);
+  LayOut(1);
+  sizeAtOne = SizeAtZoom();
+  setMinimumSize(sizeAtOne * Desk::SmallestZoom);
+  const QSize room = RoomOfScreen();
+  openingZoom = opener == nullptr ? Desk::OpeningZoom(sizeAtOne, room)
+                                  : std::min(opener->Zoom(), Desk::LargestZoom(sizeAtOne, room));
+  SetZoom(openingZoom);
   ShowCaption();
   for (const auto &[control, view] : views) {
     view->ShowAll();
     view->Widget().installEventFilter(this);
   }
+  GiveMenuItsAccessKeys();
 }
 
-// In the order of their declaration: that is the order of Tab, and the later lies on top.
+// In the order of their declaration: the later lies on top.
 void FormWindow::MakeControls() {
   for (Control *control : form.Controls())
     if (ControlView *view = MakeView(*control, surroundings, ground))
       views[control] = view;
+}
+
+void FormWindow::OrderTabs() {
+  QWidget *before = nullptr;
+  for (const Control *control : ReadingOrder(form)) {
+    QWidget *widget = WidgetOf(*control);
+    if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0)
+      continue;
+    if (before != nullptr)
+      setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+// Where a button asks for the access key of a list of the menu, the list opens. The toolkit would
+// do now this and now that.
+void FormWindow::GiveMenuItsAccessKeys() {
+  if (menu == nullptr)
+    return;
+  for (const QAction *list : menu->QWidget::actions())
+    for (QPushButton *button : ground->findChildren<QPushButton *>())
+      if (button->shortcut() == QKeySequence::mnemonic(list->text()))
+        button->setShortcut({});
 }
 
 QWidget *FormWindow::WidgetOf(const Control &control) const {
@@ -68,7 +117,77 @@ void FormWindow::ComeToFront() {
   activateWindow();
 }
 
-void FormWindow::SetZoom(double zoom) {
+void FormWindow::ListenToZoomKeys() {
+  const auto listen = [this](Qt::Key key, auto zoomOf) {
+    connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated,
+            this, [this, zoomOf] { ZoomByKey(zoomOf()); });
+  };
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal})
+    listen(key, [this] { return Desk::NextZoom(zoom, 1); });
+  listen(Qt::Key_Minus, [this] { return Desk::NextZoom(zoom, -1); });
+  listen(Qt::Key_0, [this] { return openingZoom; });
+}
+
+void FormWindow::ZoomByKey(double newZoom) {
+  if (FillsScreen())
+    return;
+  SetZoom(std::min(newZoom, Desk::LargestZoom(sizeAtOne, RoomOfScreen())));
+  // Its far corner must not leave the screen.
+  const QRect area = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  move(std::max(area.left(), frame.left() - std::max(0, frame.right() - area.right())),
+       std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
+}
+
+QSize FormWindow::RoomOfScreen() const {
+  return screen()->availableGeometry().marginsRemoved(Desk::UsualFrame).size();
+}
+
+bool FormWindow::FillsScreen() const { return isMaximized() || isFullScreen(); }
+
+void FormWindow::SetZoom(double newZoom) {
+  if (newZoom != zoom) {
+    LayOut(newZoom);
+    QToolTip::setFont(ground->font());
+  }
+  settledSize = SizeAtZoom();
+  resize(settledSize);
+}
+
+QSize FormWindow::SizeAtZoom() const { return {ground->width(), ground->y() + ground->height()}; }
+
+void FormWindow::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  if (size() != settledSize || SizeAtZoom() != settledSize) {
+    LayOut(ZoomThatFits());
+    if (!FillsScreen())
+      endOfDrag.start();
+  }
+  if (menu != nullptr)
+    menu->resize(width(), menu->height());
+  ground->move(std::max(0, (width() - ground->width()) / 2), ground->y());
+}
+
+// One edge alone says how large the window is to be; a corner gives the room that is to be filled.
+double FormWindow::ZoomThatFits() const {
+  const double byWidth = static_cast<double>(width()) / sizeAtOne.width();
+  const double byHeight = static_cast<double>(height()) / sizeAtOne.height();
+  if (!FillsScreen() && height() == settledSize.height())
+    return byWidth;
+  if (!FillsScreen() && width() == settledSize.width())
+    return byHeight;
+  return std::min(byWidth, byHeight);
+}
+
+void FormWindow::TakeProportion() {
+  if (FillsScreen() || size() == refusedSize)
+    return;
+  refusedSize = size();
+  SetZoom(zoom);
+}
+
+void FormWindow::LayOut(double newZoom) {
+  zoom = std::max(newZoom, Desk::SmallestZoom);
   const Scale scale{.zoom = zoom};
   ground->SetScale(scale);
   int top = 0;
@@ -77,12 +196,11 @@ void FormWindow::SetZoom(double zoom) {
     for (QMenu *list : menu->findChildren<QMenu *>())
       list->setFont(menu->font());
     top = menu->sizeHint().height();
-    menu->setGeometry(0, 0, ground->width(), top);
+    menu->setGeometry(0, 0, std::max(width(), ground->width()), top);
   }
-  ground->move(0, top);
+  ground->move(ground->x(), top);
   for (const auto &[control, view] : views)
     view->SetScale(scale);
-  setFixedSize(ground->width(), top + ground->height());
 }
 
 void FormWindow::LetGo() {

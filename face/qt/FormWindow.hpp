@@ -4,6 +4,7 @@
 #include "face/qt/ControlView.hpp"
 #include "surface/Form.hpp"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <unordered_map>
@@ -17,10 +18,12 @@ class FormMenu;
 class Ground;
 
 // Made anew each time that the form is loaded. It never closes by itself: its close control is an
-// act of the user, and the form says what comes of it.
+// act of the user, and the form says what comes of it. It can be zoomed as a whole, by Ctrl with
+// plus, minus and 0 and by its corner, and keeps its proportion.
 class FormWindow : public QWidget {
 public:
-  FormWindow(Form &shown, const Surroundings &around);
+  // As large as the window that it is opened from, or as fits the screen well where there is none.
+  FormWindow(Form &shown, const Surroundings &around, const FormWindow *opener);
 
   const Form &Shown() const { return form; }
   // Null for a control that is no widget of its own.
@@ -31,7 +34,8 @@ public:
   void KeepOnTop();
   void ComeToFront();
   // All sizes are those of the design times the zoom.
-  void SetZoom(double zoom);
+  double Zoom() const { return zoom; }
+  void SetZoom(double newZoom);
 
   void LetGo();
   void BoxHasGone();
@@ -41,9 +45,20 @@ protected:
   void keyPressEvent(QKeyEvent *event) override;
   void keyReleaseEvent(QKeyEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
 private:
   void MakeControls();
+  void OrderTabs();
+  void GiveMenuItsAccessKeys();
+  void ListenToZoomKeys();
+  void ZoomByKey(double newZoom);
+  void LayOut(double newZoom);
+  QSize SizeAtZoom() const;
+  QSize RoomOfScreen() const;
+  bool FillsScreen() const;
+  double ZoomThatFits() const;
+  void TakeProportion();
   void TakeKeyPress(const QKeyEvent &event);
   void TakeKeyRelease(const QKeyEvent &event);
   bool AnyControlHasFocus() const;
@@ -53,6 +68,15 @@ private:
   FormMenu *menu = nullptr;
   Ground *ground;
   std::unordered_map<const Control *, ControlView *> views;
+
+  double zoom = 1;
+  double openingZoom = 1;
+  QSize sizeAtOne;
+  // The last size in proportion: a drag is measured from there.
+  QSize settledSize;
+  // The last size out of proportion; a window system that insists on it gets it.
+  QSize refusedSize;
+  QTimer endOfDrag;
 };
 
 } // namespace Tessoro

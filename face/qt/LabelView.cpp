@@ -15,7 +15,7 @@ namespace {
 // Narrower than this, letters don't read well.
 constexpr double NarrowestStretch = 0.75;
 // Keeps the texts of labels that touch apart.
-constexpr double MarginInTwips = 15;
+constexpr double MarginInTwips = 30;
 
 Qt::Alignment AlignmentOf(LabelAlign align) {
   switch (align) {
@@ -41,6 +41,10 @@ LabelView::LabelView(Label &shown, const Surroundings &around, QWidget *parent)
   if (IsHeading(label.Style())) {
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Look::Ink());
+    setPalette(colors);
+  } else if (label.Style() == LabelStyle::Faded) {
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, Look::FadedInk());
     setPalette(colors);
   }
 }
@@ -94,14 +98,17 @@ void LabelView::paintEvent(QPaintEvent * /*event*/) {
     DrawLine(painter, area);
 }
 
-// A text that is too long in the font of this machine is set narrower rather than cut.
+// A text that is too long in the font of this machine is set narrower, and loses its middle only
+// where that doesn't help, as a long path does.
 void LabelView::DrawLine(QPainter &painter, const QRect &area) const {
   const int room = area.width() - Scale().RoundedPixels(2 * MarginInTwips);
-  const double width = std::max(1, fontMetrics().horizontalAdvance(text()));
+  const QString line =
+      fontMetrics().elidedText(text(), Qt::ElideMiddle, qRound(room / NarrowestStretch));
+  const double width = std::max(1, fontMetrics().horizontalAdvance(line));
   const double stretch = std::clamp(room / width, NarrowestStretch, 1.0);
   painter.scale(stretch, 1);
   const QRectF stretched(area.left() / stretch, area.top(), area.width() / stretch, area.height());
-  painter.drawText(stretched, static_cast<int>(alignment()) | Qt::TextDontClip, text());
+  painter.drawText(stretched, static_cast<int>(alignment()) | Qt::TextDontClip, line);
 }
 
 FrameView::FrameView(Frame &shown, const Surroundings &around, QWidget *parent)

@@ -57,11 +57,12 @@ MsgBoxButton FromQt(int button) {
 
 } // namespace
 
-MsgBoxButton ShowMessageBox(QWidget *parent, const QString &text, int flags, const QString &title) {
+MsgBoxButton ShowMessageBox(QWidget *parent, double zoom, const QString &text, int flags,
+                            const QString &title) {
   const ButtonSet buttons = ButtonsOf(flags);
   QMessageBox box(parent);
   box.setWindowTitle(title);
-  box.setFont(Look::Font(TextSize::Menu, {}));
+  box.setFont(Look::Font(TextSize::Menu, {.zoom = zoom}));
   box.setTextFormat(Qt::PlainText);
   box.setText(WithLineBreaks(text));
   box.setIcon(IconOf(flags));

@@ -8,6 +8,12 @@ static void RegisterPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace Tessoro {
 
+namespace {
+
+constexpr std::size_t MostKept = 24;
+
+} // namespace
+
 PictureStore::PictureStore() { RegisterPictures(); }
 
 PictureStore::~PictureStore() = default;
@@ -21,6 +27,9 @@ QSvgRenderer &PictureStore::RendererOf(const std::string &name) {
 }
 
 QPixmap PictureStore::Draw(std::string_view name, QSize size, double devicePixelRatio) {
+  // A window that is zoomed asks for many sizes on its way.
+  if (drawn.size() >= MostKept)
+    drawn.clear();
   const QSize pixels = (QSizeF(size) * devicePixelRatio).toSize();
   const std::string plainName(name);
   const std::string key = plainName + ' ' + std::to_string(pixels.width()) + ' ' +

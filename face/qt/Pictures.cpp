@@ -62,6 +62,7 @@ bool Save(FormWindow *window, const QString &name, const QDir &folder) {
     std::fprintf(stderr, "tessoro-pictures: %s doesn't come up\n", qPrintable(name));
     return false;
   }
+  window->SetZoom(1); // whatever fits the screen that isn't there
   bool isSaved = true;
   for (const PictureScale &scale : Scales)
     isSaved = SavePicture(*window, name, folder, scale) && isSaved;

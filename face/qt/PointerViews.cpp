@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
 
 namespace Tessoro {
 
@@ -97,7 +98,11 @@ void PointerView::changeEvent(QEvent *event) {
 }
 
 ImageView::ImageView(Image &shown, const Surroundings &around, QWidget *parent)
-    : PointerView(shown, around, parent), image(shown) {}
+    : PointerView(shown, around, parent), image(shown) {
+  if (!image.AccessKey().empty())
+    connect(new QShortcut(QKeySequence(FromModel(image.AccessKey())), this), &QShortcut::activated,
+            this, [this] { Clicked(); });
+}
 
 void ImageView::Clicked() {
   Enter([this] { image.UserClick(); });
@@ -119,6 +124,15 @@ void ImageView::paintEvent(QPaintEvent * /*event*/) {
 
 NoteKeyView::NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent)
     : PointerView(shown, around, parent), key(shown) {}
+
+void NoteKeyView::Strike() {
+  QMouseEvent press(QEvent::MouseButtonPress, rect().center(), mapToGlobal(rect().center()),
+                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  mousePressEvent(&press);
+  QMouseEvent release(QEvent::MouseButtonRelease, rect().center(), mapToGlobal(rect().center()),
+                      Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+  mouseReleaseEvent(&release);
+}
 
 void NoteKeyView::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);

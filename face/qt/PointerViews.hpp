@@ -49,8 +49,10 @@ class ImageView : public PointerView {
 public:
   ImageView(Image &shown, const Surroundings &around, QWidget *parent);
 
-protected:
+  const Image &Shown() const { return image; }
   void Clicked() override;
+
+protected:
   bool DoubleClicked() override;
   void paintEvent(QPaintEvent *event) override;
 
@@ -61,6 +63,9 @@ private:
 class NoteKeyView : public PointerView {
 public:
   NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent);
+
+  // A press and its release.
+  void Strike();
 
 protected:
   void paintEvent(QPaintEvent *event) override;

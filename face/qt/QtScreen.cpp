@@ -1,5 +1,6 @@
 #include "face/qt/QtScreen.hpp"
 
+#include "face/qt/Desk.hpp"
 #include "face/qt/FormWindow.hpp"
 #include "face/qt/MessageBox.hpp"
 #include "face/qt/Text.hpp"
@@ -7,6 +8,9 @@
 #include "surface/Form.hpp"
 
 #include <QApplication>
+
+#include <algorithm>
+#include <utility>
 
 namespace Tessoro {
 
@@ -21,31 +25,37 @@ QtScreen::QtScreen() {
 }
 
 QtScreen::~QtScreen() {
-  for (FormWindow *window : Windows())
+  for (FormWindow *window : windows)
     delete window;
 }
 
 FormWindow *QtScreen::WindowOf(const Form &form) const {
-  const auto found = windows.find(&form);
-  return found == windows.end() ? nullptr : found->second;
-}
-
-std::vector<FormWindow *> QtScreen::Windows() const {
-  std::vector<FormWindow *> all;
-  for (const auto &[form, window] : windows)
-    all.push_back(window);
-  return all;
+  const auto found = std::find_if(windows.begin(), windows.end(), [&](const FormWindow *window) {
+    return &window->Shown() == &form;
+  });
+  return found == windows.end() ? nullptr : *found;
 }
 
 void QtScreen::FormLoading(Form &form) {
-  windows[&form] = new FormWindow(form, {.gate = gate, .pictures = pictures});
+  const FormWindow *opener = WindowInFront();
+  if (opener == nullptr && !windows.empty())
+    opener = windows.front(); // which is still to come
+  windows.push_back(new FormWindow(form, {.gate = gate, .pictures = pictures}, opener));
 }
 
-void QtScreen::FormShown(Form &form) { windows.at(&form)->ComeToFront(); }
+// The first window stands where the system likes, and all others keep out of its way; it may still
+// be loading when they come up.
+void QtScreen::FormShown(Form &form) {
+  FormWindow *window = WindowOf(form);
+  if (!window->isVisible() && window != windows.front())
+    Desk::StandBesideOthers(*window);
+  window->ComeToFront();
+}
 
 void QtScreen::FormUnloaded(Form &form) {
-  Remove(windows.at(&form));
-  windows.erase(&form);
+  FormWindow *window = WindowOf(form);
+  std::erase(windows, window);
+  Remove(window);
 }
 
 // The form may have gone in a handler of its own, with its widgets still at work.
@@ -64,11 +74,11 @@ void QtScreen::PropertyChanged(Control &control, Property property) {
     window->Show(control, property);
 }
 
-void QtScreen::KeepOnTop(Form &form) { windows.at(&form)->KeepOnTop(); }
+void QtScreen::KeepOnTop(Form &form) { WindowOf(form)->KeepOnTop(); }
 
 FormWindow *QtScreen::WindowInFront() const {
   FormWindow *visible = nullptr;
-  for (FormWindow *window : Windows()) {
+  for (FormWindow *window : windows) {
     if (window->isActiveWindow())
       return window;
     if (window->isVisible())
@@ -81,12 +91,14 @@ MsgBoxButton QtScreen::MsgBox(const std::string &text, int flags, const std::str
   while (QWidget *popup = QApplication::activePopupWidget())
     popup->close();
   gate.Close();
-  for (FormWindow *window : Windows())
+  for (FormWindow *window : windows)
     window->LetGo();
   const MousePointer before = mousePointer;
   SetMousePointer(MousePointer::Default);
+  FormWindow *parent = WindowInFront();
+  const double zoom = parent == nullptr ? 1 : parent->Zoom();
   const MsgBoxButton answer =
-      ShowMessageBox(WindowInFront(), FromModel(text), flags, FromModel(title));
+      ShowMessageBox(parent, zoom, FromModel(text), flags, FromModel(title));
   SetMousePointer(before);
   gate.Open();
   return answer;
@@ -94,8 +106,8 @@ MsgBoxButton QtScreen::MsgBox(const std::string &text, int flags, const std::str
 
 void QtScreen::BoxHasGone() {
   if (!gate.IsOpen())
-    return; // the handler has raised one more
-  for (FormWindow *window : Windows())
+    return;                                       // the handler has raised one more
+  for (FormWindow *window : std::vector(windows)) // a handler may take one away
     window->BoxHasGone();
 }
 
@@ -114,9 +126,8 @@ void QtScreen::ProgramEnded(ProgramEnd end, const Failure *failure) {
   if (failure != nullptr)
     MsgBox("Run-time error '" + std::to_string(failure->Number()) + "':\n\n" + failure->Text(),
            MsgBoxFlags::Critical, FailureTitle);
-  for (FormWindow *window : Windows())
+  for (FormWindow *window : std::exchange(windows, {}))
     Remove(window);
-  windows.clear();
   exitStatus = end == ProgramEnd::Failure ? 1 : 0;
   QCoreApplication::exit(*exitStatus);
 }

@@ -8,7 +8,6 @@
 #include <QObject>
 
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace Tessoro {
@@ -40,12 +39,12 @@ public:
 private:
   void BoxHasGone();
   void Remove(FormWindow *window);
-  std::vector<FormWindow *> Windows() const;
+  // Null while none is visible.
   FormWindow *WindowInFront() const;
 
   Gate gate;
   PictureStore pictures;
-  std::unordered_map<const Form *, FormWindow *> windows;
+  std::vector<FormWindow *> windows; // in the order in which their forms were loaded
   MousePointer mousePointer = MousePointer::Default;
   std::optional<int> exitStatus;
 };

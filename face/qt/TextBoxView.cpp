@@ -9,10 +9,19 @@
 
 namespace Tessoro {
 
+namespace {
+
+// A box as narrow as this holds a number, which stands in the middle, as below a knob.
+constexpr int WidthOfNumbers = 600; // twips
+
+} // namespace
+
 TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent)
     : QLineEdit(parent), ControlView(shown, around), box(shown) {
   if (box.BackColor() != Colors::Navy)
     setPalette(Look::Field(box.BackColor()));
+  if (box.DesignPlace().width <= WidthOfNumbers)
+    setAlignment(Qt::AlignCenter);
   if (box.MaxLength() != 0)
     setMaxLength(static_cast<int>(box.MaxLength()));
   connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
@@ -36,7 +45,10 @@ void TextBoxView::keyPressEvent(QKeyEvent *event) {
   constexpr int enter = 13;
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
     Enter([this] { box.UserKeyPress(enter); });
-  QLineEdit::keyPressEvent(event);
+  if (IsAccessKey(*event))
+    event->ignore();
+  else
+    QLineEdit::keyPressEvent(event);
 }
 
 void TextBoxView::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -51,6 +63,11 @@ void TextBoxView::mouseReleaseEvent(QMouseEvent *event) {
   const bool endsFirstClick = !std::exchange(isSecondClick, false);
   if (endsFirstClick && event->button() == Qt::LeftButton && rect().contains(event->pos()))
     Enter([this] { box.UserClick(); });
+}
+
+bool IsAccessKey(const QKeyEvent &event) {
+  const bool isAltAlone = (event.modifiers() & ~Qt::ShiftModifier) == Qt::AltModifier;
+  return isAltAlone && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
 std::string TakeEdit(QLineEdit &field, const QString &before, const QString &edited) {

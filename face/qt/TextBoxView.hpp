@@ -6,6 +6,8 @@
 
 #include <QLineEdit>
 
+class QKeyEvent;
+
 namespace Tessoro {
 
 class TextBoxView : public QLineEdit, public ControlView {
@@ -27,6 +29,10 @@ private:
   TextBox &box;
   bool isSecondClick = false;
 };
+
+// Whether the keys are meant for a menu or a button: the toolkit would take the letter for a text
+// where none of them answers.
+bool IsAccessKey(const QKeyEvent &event);
 
 // Tells what a user's edit has made of the text of a field, and leaves in the field what can be
 // told: one line, in characters that the model has. The cursor stays where it was.

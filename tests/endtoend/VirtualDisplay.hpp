@@ -42,6 +42,9 @@ public:
   VirtualDisplay(const VirtualDisplay &) = delete;
   VirtualDisplay &operator=(const VirtualDisplay &) = delete;
 
+  // The server dies.
+  void Vanish() { server.reset(); }
+
   // As ":7".
   const std::string &Name() const { return name; }
 

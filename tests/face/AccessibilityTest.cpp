@@ -44,7 +44,8 @@ TEST_F(AccessibilityTest, RolesTellWhatAControlIs) {
   EXPECT_EQ(Description(bench.Combo).role(), QAccessible::ComboBox);
   EXPECT_EQ(Description(bench.Check).role(), QAccessible::CheckBox);
   EXPECT_EQ(Description(bench.HBar).role(), QAccessible::ScrollBar);
-  EXPECT_EQ(Description(bench.Knob).role(), QAccessible::Graphic);
+  EXPECT_EQ(Description(app.F_Tessoro.knobF1_cutoff).role(), QAccessible::Graphic);
+  EXPECT_EQ(Description(app.F_Tessoro.ImageParallel).role(), QAccessible::Button);
   EXPECT_EQ(Description(bench.Key).role(), QAccessible::Button);
 }
 
@@ -57,6 +58,26 @@ TEST_F(AccessibilityTest, ABarTellsTheValueOfItsControl) {
   EXPECT_EQ(value->maximumValue().toInt(), 127);
   value->setCurrentValue(400);
   EXPECT_EQ(bench.VBar.Value(), 127);
+}
+
+TEST_F(AccessibilityTest, AListTellsItsItemAsABoxTellsItsText) {
+  bench.Combo.SetListIndex(1);
+  QAccessibleTextInterface *text = Description(bench.Combo).textInterface();
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->text(0, text->characterCount()), QStringLiteral("Saw"));
+  EXPECT_EQ(Description(bench.Combo).text(QAccessible::Value), QStringLiteral("Saw"));
+}
+
+TEST_F(AccessibilityTest, WhatIsOnlyForTheMouseCanBePressedByAReader) {
+  const auto press = [this](const Control &control) {
+    Description(control).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  };
+  press(app.F_Tessoro.ImageParallel);
+  EXPECT_TRUE(app.F_Tessoro.ImageSeriell.Visible());
+  press(app.F_Tessoro.ImageSeriell);
+  EXPECT_TRUE(app.F_Tessoro.ImageParallel.Visible());
+  press(bench.Key);
+  EXPECT_THAT(Heard(), testing::ElementsAre("Key MouseDown 1 135 585", "Key MouseUp 1 135 585"));
 }
 
 TEST_F(AccessibilityTest, ToolTipsAreThoseOfTheControls) {

@@ -20,6 +20,8 @@ void FaceTest::SetUp() {
   app.Start();
   bench.Show();
   FormWindow &window = WindowOf(bench);
+  for (const Form *form : std::initializer_list<Form *>{&app.F_Tessoro, &bench})
+    WindowOf(*form).SetZoom(1); // whatever fits this small screen
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   Heard();

@@ -1,0 +1,36 @@
+// How large windows open, and where on the screen.
+#pragma once
+
+#include <QMargins>
+#include <QRect>
+#include <QSize>
+
+#include <vector>
+
+class QWidget;
+
+namespace Tessoro::Desk {
+
+// What the window system draws around a window, as long as it hasn't said so.
+inline constexpr QMargins UsualFrame(4, 30, 4, 4);
+
+// Of the keys that zoom.
+inline constexpr double ZoomStep = 0.25;
+// Below this, letters can't be read.
+inline constexpr double SmallestZoom = 0.5;
+
+// At which a window of that size at a zoom of 1 just fits.
+double LargestZoom(const QSize &sizeAtOne, const QSize &room);
+// The largest whole number that fits; where not even 1 does, a step of the keys.
+double OpeningZoom(const QSize &sizeAtOne, const QSize &room);
+// The next step of the keys, up or down.
+double NextZoom(double zoom, int direction);
+
+// The top left corner of a window beside the others, or where it covers least of them. The first of
+// the others comes first. Without others it stands at the right, for those that are yet to come.
+QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QRect &room);
+// Moves a window that is still to come out of the way of all that the program shows. The one that
+// is worked in is the first to keep off.
+void StandBesideOthers(QWidget &window);
+
+} // namespace Tessoro::Desk

@@ -1,0 +1,170 @@
+// How the forms of the editor look, as far as a program can tell.
+#include "face/qt/LabelView.hpp"
+#include "tests/face/FaceTest.hpp"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <algorithm>
+
+namespace Tessoro::Tests {
+namespace {
+
+// A label sets its text narrower by up to this.
+constexpr double NarrowestStretch = 0.75;
+
+class LayoutTest : public FaceTest {
+protected:
+  void SetUp() override {
+    FaceTest::SetUp();
+    app.F_Tessoro.InitPanelParams(); // some forms need a sound to load
+    for (Form *form : Forms())
+      form->Show();
+  }
+
+  std::vector<Form *> Forms() const {
+    std::vector<Form *> forms = app.Forms();
+    std::erase(forms, &bench);
+    return forms;
+  }
+
+  struct Shown {
+    const Control *control;
+    QWidget *widget;
+  };
+  std::vector<Shown> ShownOn(const Form &form) const {
+    std::vector<Shown> shown;
+    for (const Control *control : form.Controls())
+      if (QWidget *widget = WindowOf(form).WidgetOf(*control))
+        if (widget->isVisible())
+          shown.push_back({control, widget});
+    return shown;
+  }
+
+  template <typename Check> void ForEachForm(Check &&check) {
+    for (const double zoom : {1.0, 1.5, 2.0})
+      for (const Form *form : Forms()) {
+        WindowOf(*form).SetZoom(zoom);
+        check(*form);
+      }
+  }
+
+  static std::string NameOf(const Control &control) {
+    return control.Owner().Name() + "." + control.Name();
+  }
+};
+
+int RoomOfField(const QLineEdit &field) {
+  QStyleOptionFrame option;
+  option.initFrom(&field);
+  constexpr int cursorAndMargin = 5; // of the toolkit
+  return field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field).width() -
+         field.textMargins().left() - field.textMargins().right() - cursorAndMargin;
+}
+
+TEST_F(LayoutTest, EveryControlLiesOnItsForm) {
+  ForEachForm([this](const Form &form) {
+    for (const Shown &each : ShownOn(form)) {
+      EXPECT_TRUE(each.widget->parentWidget()->rect().contains(each.widget->geometry()))
+          << NameOf(*each.control);
+    }
+  });
+}
+
+TEST_F(LayoutTest, NothingLiesOnAnythingElse) {
+  ForEachForm([this](const Form &form) {
+    const std::vector<Shown> shown = ShownOn(form);
+    for (auto one = shown.begin(); one != shown.end(); ++one)
+      for (auto other = one + 1; other != shown.end(); ++other) {
+        const bool areOnFrame = one->control->Type() == ControlType::Frame;
+        EXPECT_TRUE(areOnFrame || !one->widget->geometry().intersects(other->widget->geometry()))
+            << NameOf(*one->control) << " and " << NameOf(*other->control);
+      }
+  });
+}
+
+TEST_F(LayoutTest, PanelsStandApartAndHoldTheirControlsWhole) {
+  for (const Form *form : Forms()) {
+    std::vector<QRect> panels;
+    for (const Control *control : form->Controls())
+      if (const auto *shape = dynamic_cast<const Shape *>(control);
+          shape != nullptr && shape->Kind() == ShapeKind::Panel) {
+        const Place &place = shape->DesignPlace();
+        panels.emplace_back(place.left, place.top, place.width, place.height);
+      }
+    for (auto one = panels.begin(); one != panels.end(); ++one) {
+      for (auto other = one + 1; other != panels.end(); ++other)
+        EXPECT_FALSE(one->intersects(*other)) << form->Name();
+      for (const Shown &each : ShownOn(*form)) {
+        const Place &place = each.control->DesignPlace();
+        const QRect area(place.left, place.top, place.width, place.height);
+        EXPECT_TRUE(!one->intersects(area) || one->contains(area)) << NameOf(*each.control);
+      }
+    }
+  }
+}
+
+TEST_F(LayoutTest, NoCaptionIsCut) {
+  ForEachForm([this](const Form &form) {
+    for (const Shown &each : ShownOn(form)) {
+      if (const auto *label = dynamic_cast<const LabelView *>(each.widget);
+          label != nullptr && label->height() < 2 * label->fontMetrics().height()) {
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()) * NarrowestStretch,
+                  label->width())
+            << NameOf(*each.control);
+        EXPECT_LE(label->fontMetrics().ascent(), label->height()) << NameOf(*each.control);
+      }
+      if (const auto *button = dynamic_cast<const QPushButton *>(each.widget)) {
+        EXPECT_LE(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 6,
+                  button->width())
+            << NameOf(*each.control);
+      }
+    }
+  });
+}
+
+TEST_F(LayoutTest, NoItemOfAListIsCutInItsField) {
+  ForEachForm([this](const Form &form) {
+    for (const Shown &each : ShownOn(form)) {
+      const auto *combo = dynamic_cast<const ComboBox *>(each.control);
+      if (combo == nullptr)
+        continue;
+      const auto &field = WidgetOf<QLineEdit>(*each.control);
+      for (const std::string &item : combo->List())
+        EXPECT_LE(field.fontMetrics().horizontalAdvance(QString::fromStdString(item)),
+                  RoomOfField(field))
+            << NameOf(*each.control) << " " << item;
+    }
+  });
+}
+
+TEST_F(LayoutTest, ANumberOfThreeCharactersFitsEveryBox) {
+  ForEachForm([this](const Form &form) {
+    for (const Shown &each : ShownOn(form)) {
+      if (each.control->Type() != ControlType::TextBox)
+        continue;
+      const auto &field = WidgetOf<QLineEdit>(*each.control);
+      EXPECT_LE(field.fontMetrics().horizontalAdvance(QStringLiteral("-64")), RoomOfField(field))
+          << NameOf(*each.control);
+    }
+  });
+}
+
+// Text in points grows with the system's letters while the places stay.
+TEST_F(LayoutTest, TheLettersOfTheSystemChangeNothing) {
+  const QFont before = QApplication::font();
+  const QFont ofLabel = WidgetOf(app.F_Tessoro.LabelF1_cutoff).font();
+  QFont large = before;
+  large.setPointSize(24);
+  QApplication::setFont(large);
+  LetPass(1);
+  EXPECT_EQ(WidgetOf(app.F_Tessoro.LabelF1_cutoff).font().pixelSize(), ofLabel.pixelSize());
+  EXPECT_EQ(WidgetOf(app.F_Tessoro.TextF1_cutoff).font().pixelSize(), ofLabel.pixelSize());
+  QApplication::setFont(before);
+}
+
+} // namespace
+} // namespace Tessoro::Tests
