@@ -110,7 +110,7 @@ float Percentile(std::vector<float> &times, double percent) {
 // nothing of ours can be punctual.
 class Lateness {
 public:
-  Lateness() : thread([this] { Watch(); }) { times.reserve(1 << 20); }
+  Lateness() : thread([this] { Watch(); }) {}
   ~Lateness() { Stop(); }
   Lateness(const Lateness &) = delete;
   Lateness &operator=(const Lateness &) = delete;
@@ -126,6 +126,7 @@ public:
 private:
   void Watch() {
     constexpr auto nap = 2ms;
+    times.reserve(1 << 20);
     while (isWatching) {
       const auto begin = Clock::now();
       std::this_thread::sleep_for(nap);
