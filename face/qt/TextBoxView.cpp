@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tessoro {
 
@@ -17,10 +18,11 @@ constexpr int WidthOfNumbers = 600; // twips
 } // namespace
 
 TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent)
-    : QLineEdit(parent), ControlView(shown, around), box(shown) {
+    : QLineEdit(parent), ControlView(shown, around), box(shown),
+      holdsNumber(shown.DesignPlace().width <= WidthOfNumbers) {
   if (box.BackColor() != Colors::Navy)
     setPalette(Look::Field(box.BackColor()));
-  if (box.DesignPlace().width <= WidthOfNumbers)
+  if (holdsNumber)
     setAlignment(Qt::AlignCenter);
   if (box.MaxLength() != 0)
     setMaxLength(static_cast<int>(box.MaxLength()));
@@ -39,6 +41,11 @@ void TextBoxView::Edited(const QString &edited) {
   const std::string told = TakeEdit(*this, FromModel(box.Text()), edited);
   Enter([&] { box.UserEdit(told); });
   ShowContent();
+}
+
+void TextBoxView::focusInEvent(QFocusEvent *event) {
+  QLineEdit::focusInEvent(event);
+  wasFocusedByClick = event->reason() == Qt::MouseFocusReason;
 }
 
 void TextBoxView::keyPressEvent(QKeyEvent *event) {
@@ -60,6 +67,8 @@ void TextBoxView::mouseDoubleClickEvent(QMouseEvent *event) {
 
 void TextBoxView::mouseReleaseEvent(QMouseEvent *event) {
   QLineEdit::mouseReleaseEvent(event);
+  if (std::exchange(wasFocusedByClick, false) && holdsNumber && !hasSelectedText())
+    selectAll();
   const bool endsFirstClick = !std::exchange(isSecondClick, false);
   if (endsFirstClick && event->button() == Qt::LeftButton && rect().contains(event->pos()))
     Enter([this] { box.UserClick(); });

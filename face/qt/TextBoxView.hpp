@@ -10,6 +10,8 @@ class QKeyEvent;
 
 namespace Tessoro {
 
+// A click into a box with a number selects it, so that the next digit begins a new one: a double
+// click has another meaning here.
 class TextBoxView : public QLineEdit, public ControlView {
 public:
   TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent);
@@ -19,6 +21,7 @@ public:
 protected:
   void ShowContent() override;
 
+  void focusInEvent(QFocusEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
@@ -27,7 +30,9 @@ private:
   void Edited(const QString &edited);
 
   TextBox &box;
+  const bool holdsNumber;
   bool isSecondClick = false;
+  bool wasFocusedByClick = false;
 };
 
 // Whether the keys are meant for a menu or a button: the toolkit would take the letter for a text

@@ -127,6 +127,19 @@ TEST_F(KeyboardTest, AKnobLeavesTheFocusWhereItIs) {
   EXPECT_TRUE(WidgetOf(bench.Box).hasFocus());
 }
 
+TEST_F(KeyboardTest, AClickIntoABoxWithANumberIsEnoughToTypeAnother) {
+  bench.Box.SetText("82");
+  Focus(bench.Name);
+  Heard();
+  QTest::mouseClick(&WidgetOf(bench.Box), Qt::LeftButton);
+  QTest::keyClicks(&WidgetOf(bench.Box), QStringLiteral("64"));
+  EXPECT_EQ(bench.Box.Text(), "64");
+  QTest::mouseClick(&WidgetOf(bench.Box), Qt::LeftButton);
+  QTest::keyClick(&WidgetOf(bench.Box), Qt::Key_End);
+  QTest::keyClicks(&WidgetOf(bench.Box), QStringLiteral("5"));
+  EXPECT_EQ(bench.Box.Text(), "645") << "a second click sets the cursor";
+}
+
 TEST_F(KeyboardTest, AnAccessKeyPressesItsButton) {
   Focus(bench.Box);
   QTest::keyClick(WindowOf(bench).windowHandle(), Qt::Key_P, Qt::AltModifier);
