@@ -55,7 +55,7 @@ void Measure(const Effort &effort) {
     return medians.Time(name) * NanosecondsInSecond;
   };
   const double bare = nanoseconds(Benches::BareMessageOverJack);
-  PrintTable({
+  const bool countsAreMet = PrintTable({
       {"one change, text to a null service", nanoseconds(Benches::ChangeAtNullService), "ns", 1000},
       {"  its heap allocations",
        medians.Counter(Benches::ChangeAtNullService, Benches::Allocations), "", 0},
@@ -71,7 +71,7 @@ void Measure(const Effort &effort) {
        "bare sendMessage", bare},
       {"one change, text to return, JACK", nanoseconds(Benches::ChangeThroughJack), "ns", 1.1,
        "bare sendMessage", bare},
-      {"a whole init, click to return, JACK",
+      {"a whole init, call to return, JACK",
        medians.Time(Benches::InitThroughJack) * MicrosecondsInSecond, "us", 1.5, "a null service",
        medians.Time(Benches::InitAtNullService) * MicrosecondsInSecond},
       {"one keystroke in the window (99th perc.)", keystrokes.editor, "us", 2,
@@ -85,6 +85,8 @@ void Measure(const Effort &effort) {
       {"peak memory", starts.editor.mebibytes, "MiB", 1.35, "empty window",
        starts.emptyWindow.mebibytes},
   });
+  if (!countsAreMet)
+    throw std::runtime_error("the heap is used where it must not be");
 }
 
 } // namespace
@@ -94,7 +96,7 @@ int main(int argc, char *argv[]) {
   try {
     Measure(isShort ? Effort{3, 3} : Effort{15, 21});
   } catch (const std::exception &failure) {
-    std::fprintf(stderr, "Nothing to tell: %s.\n", failure.what());
+    std::fprintf(stderr, "The benchmarks failed: %s.\n", failure.what());
     return 1;
   }
   return 0;

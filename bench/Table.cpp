@@ -4,9 +4,10 @@
 
 namespace Tessoro {
 
-void PrintTable(const std::vector<TableRow> &rows) {
+bool PrintTable(const std::vector<TableRow> &rows) {
   std::printf("%-44s %12s   %-34s %7s %7s\n", "measured (medians)", "value", "against", "ratio",
               "goal");
+  bool countsAreMet = true;
   for (const TableRow &row : rows) {
     std::printf("%-44s %8.2f %-3s   ", row.measured.c_str(), row.value, row.unit.c_str());
     double judged = row.value;
@@ -17,8 +18,11 @@ void PrintTable(const std::vector<TableRow> &rows) {
     } else {
       std::printf("%-34s %7s ", "", "");
     }
-    std::printf("%7.2f  %s\n", row.goal, judged <= row.goal ? "met" : "MISSED");
+    const bool isMet = judged <= row.goal;
+    std::printf("%7.2f  %s\n", row.goal, isMet ? "met" : "MISSED");
+    countsAreMet = countsAreMet && (isMet || !row.unit.empty());
   }
+  return countsAreMet;
 }
 
 } // namespace Tessoro

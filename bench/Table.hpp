@@ -18,6 +18,8 @@ struct TableRow {
   std::optional<double> limit = std::nullopt;
 };
 
-void PrintTable(const std::vector<TableRow> &rows);
+// Whether the goals are met that no busy machine can spoil: those of rows without a unit, which
+// count something.
+bool PrintTable(const std::vector<TableRow> &rows);
 
 } // namespace Tessoro

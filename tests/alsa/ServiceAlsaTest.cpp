@@ -1,6 +1,7 @@
 // The MIDI service on the real ALSA sequencer, with software instruments and the kernel's virtual
 // cards at the other end.
 #include "service/MachineMidi.hpp"
+#include "service/rtmidi/VirtualInPort.hpp"
 #include "tests/alsa/SoundCard.hpp"
 #include "tests/endtoend/JackInstruments.hpp"
 #include "tests/endtoend/ServiceCalls.hpp"
@@ -11,6 +12,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -172,6 +174,22 @@ TEST_F(ServiceAlsaTest, ALongMessagePassesThroughWhole) {
   keyboard.Play(dump);
   EXPECT_TRUE(Eventually([&] { return synth.Count() == 1; }));
   EXPECT_EQ(synth.Messages(), std::vector<Bytes>{dump});
+}
+
+TEST_F(ServiceAlsaTest, ThePortOfTheMonitorIsListedAndHears) {
+  std::mutex mutex;
+  std::vector<Bytes> heard;
+  const auto port =
+      OpenVirtualInPort(MidiSystem::Alsa, "microQ", "microQ (monitor)", [&](MidiBytes message) {
+        const std::lock_guard lock(mutex);
+        heard.emplace_back(message.begin(), message.end());
+      });
+  ASSERT_NE(port, nullptr);
+  ASSERT_EQ(SendLong(*service, OpenOut("microQ (monitor)"), Change(78, 64)), 0U);
+  EXPECT_TRUE(Eventually([&] {
+    const std::lock_guard lock(mutex);
+    return heard == std::vector<Bytes>{Change(78, 64)};
+  }));
 }
 
 TEST_F(ServiceAlsaTest, ACardThatIsPulledMakesSendsFailUntilItIsBack) {

@@ -67,7 +67,7 @@ TEST(RandomUsers, FindAPlantedFaultAndTellItInAFewLines) {
   ASSERT_TRUE(result.broken);
   EXPECT_EQ(result.broken->breach.rule, "planted");
   const BrokenSession broken = Shrunk(*result.broken, "/random", PlantedRule);
-  EXPECT_LE(broken.script.size(), 6U) << testing::PrintToString(broken.script);
+  EXPECT_LE(broken.script.size(), 10U) << testing::PrintToString(broken.script);
   EXPECT_TRUE(Replayed(broken.machine, "/random", broken.script, PlantedRule));
   for (std::size_t i = 0; i < broken.script.size(); ++i) {
     Script part = broken.script;
