@@ -92,6 +92,7 @@ QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QR
 void StandBesideOthers(QWidget &window) {
   const std::vector<QWidget *> others = WindowsBut(window);
   std::vector<QRect> frames;
+  frames.reserve(others.size());
   for (const QWidget *other : others)
     frames.push_back(other->frameGeometry());
   const QSize frame = others.empty()

@@ -13,10 +13,13 @@
 namespace Tessoro::Tests {
 
 class PluggedEditorTest : public testing::Test {
-protected:
+public:
   PluggedEditorTest();
   ~PluggedEditorTest() override;
+  PluggedEditorTest(const PluggedEditorTest &) = delete;
+  PluggedEditorTest &operator=(const PluggedEditorTest &) = delete;
 
+protected:
   int PlaceOfSynth() const;
   int PlaceOfKeyboard() const;
   // Both are chosen in its settings. Returns when it has opened them and shows its window.

@@ -228,7 +228,7 @@ TEST_F(ReaderTest, EveryControlHasANameARoleAndItsValue) {
   std::map<std::string, int> counts;
   for (const Heard &each : heard) {
     ++counts[each.role];
-    EXPECT_TRUE(!each.name.empty() || nameless.count(each.role) > 0)
+    EXPECT_TRUE(!each.name.empty() || nameless.contains(each.role))
         << "a nameless " << each.role << " with the value " << each.value;
     EXPECT_FALSE(each.role.empty() || each.role == "unknown" || each.role == "invalid")
         << each.name;

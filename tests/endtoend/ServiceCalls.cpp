@@ -38,7 +38,7 @@ std::vector<std::string> OutNames(MidiService &service) {
   for (std::int32_t i = 0; i < count; ++i) {
     MIDIOUTCAPS record;
     service.midiOutGetDevCapsA(i, record, 52);
-    names.push_back(record.szPname.data());
+    names.emplace_back(record.szPname.data());
   }
   return names;
 }
@@ -49,7 +49,7 @@ std::vector<std::string> InNames(MidiService &service) {
   for (std::int32_t i = 0; i < count; ++i) {
     MIDIINCAPS record;
     service.midiInGetDevCapsA(i, record, 52);
-    names.push_back(record.szPname.data());
+    names.emplace_back(record.szPname.data());
   }
   return names;
 }

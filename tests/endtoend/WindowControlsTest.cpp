@@ -105,9 +105,11 @@ protected:
   }
 
   // Whatever came too much comes before these notes.
-  void TearDown() override { Play({{form().NoteC1, Clicks(), {Note(36, 100), Note(36, 0)}}}); }
+  void TearDown() override {
+    Play({{MainDesign().NoteC1, Clicks(), {Note(36, 100), Note(36, 0)}}});
+  }
 
-  const F_Tessoro &form() const { return editor->Design().F_Tessoro; }
+  const F_Tessoro &MainDesign() const { return editor->Design().F_Tessoro; }
 
   void Play(const std::vector<Row> &rows) {
     const ShownForm window = editor->MainForm();
@@ -119,7 +121,7 @@ protected:
 };
 
 TEST_F(WindowControlsTest, Oscillators) {
-  const OscillatorSection &on = form();
+  const OscillatorSection &on = MainDesign();
   Play({
       {on.TextOSC1keytrack, Types("minus 5"), {Parameter(5, 59)}},
       {on.TextOSC1detune, Types("1 2"), {Controller(29, 65), Controller(29, 76)}},
@@ -150,7 +152,7 @@ TEST_F(WindowControlsTest, Oscillators) {
 }
 
 TEST_F(WindowControlsTest, Mixer) {
-  const MixerSection &on = form();
+  const MixerSection &on = MainDesign();
   Play({
       {on.VScrollOSC1vol, GraspsLowestThumb(), {}},
       {on.VScrollOSC1vol, DragsTo(AboveThumb), {}},
@@ -170,7 +172,7 @@ TEST_F(WindowControlsTest, Mixer) {
 }
 
 TEST_F(WindowControlsTest, Filters) {
-  const FilterSection &on = form();
+  const FilterSection &on = MainDesign();
   Play({
       {on.TextF2_reso, Types("4 0"), {Parameter(100, 4), Parameter(100, 40)}},
       {on.TextF2_pan, Types("minus 6 4"), {Parameter(113, 58), Parameter(113, 0)}},
@@ -193,7 +195,7 @@ TEST_F(WindowControlsTest, Filters) {
 }
 
 TEST_F(WindowControlsTest, Envelopes) {
-  const EnvelopeSection &on = form();
+  const EnvelopeSection &on = MainDesign();
   Play({
       {on.TextEnv1T2, Types("7"), {Controller(102, 7)}},
       {on.TextEnv2L2, Types("9 9"), {Parameter(202, 9), Parameter(202, 99)}},
@@ -218,7 +220,7 @@ TEST_F(WindowControlsTest, Envelopes) {
 }
 
 TEST_F(WindowControlsTest, Amplifier) {
-  const AmplifierSection &on = form();
+  const AmplifierSection &on = MainDesign();
   Play({
       {on.TextAmpVolume, Types("1 1"), {Parameter(121, 1), Parameter(121, 11)}},
       {on.VScrollAmpVolume, Clicks(AboveThumb), {Parameter(121, 16)}},
@@ -236,7 +238,7 @@ TEST_F(WindowControlsTest, Notes) {
     for (int note = 1; note <= 127; ++note)
       panic.push_back(Note(note, 0));
 
-  const NoteSection &on = form();
+  const NoteSection &on = MainDesign();
   Play({
       {on.NoteC3, Grasps(), {Note(60, 100)}},
       {on.NoteC3, LetsGo(), {Note(60, 0)}},

@@ -13,8 +13,8 @@ namespace {
 
 class WindowSurprises : public testing::Test {
 protected:
-  WindowSurprises() { setenv("JACK_DEFAULT_SERVER", "tessoro-test-no-server", 1); }
-  ~WindowSurprises() override { unsetenv("JACK_DEFAULT_SERVER"); }
+  void SetUp() override { setenv("JACK_DEFAULT_SERVER", "tessoro-test-no-server", 1); }
+  void TearDown() override { unsetenv("JACK_DEFAULT_SERVER"); }
 
   // A folder of the program that knows its ports, which are those that every machine has.
   struct Desk {

@@ -96,7 +96,7 @@ TEST_F(ZoomTest, AFormOpensAsLargeAsTheOneItIsOpenedFrom) {
   window->SetZoom(1.25);
   app.F_Preferences.Show();
   EXPECT_EQ(WindowOf(app.F_Preferences).Zoom(), 1.25);
-  EXPECT_NEAR(WindowOf(app.F_Preferences).width(), 4560 / 15 * 1.25, 1);
+  EXPECT_NEAR(WindowOf(app.F_Preferences).width(), 4560 / 15.0 * 1.25, 1);
 }
 
 TEST_F(ZoomTest, ABoxHasTheLettersOfTheWindowBelowIt) {
