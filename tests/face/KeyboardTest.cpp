@@ -16,8 +16,6 @@
 namespace Tessoro::Tests {
 namespace {
 
-using testing::ElementsAre;
-
 class KeyboardTest : public FaceTest {
 protected:
   // Shows the form where it isn't shown and brings it to the front.

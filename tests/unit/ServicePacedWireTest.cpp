@@ -225,7 +225,7 @@ TEST_F(ServicePacedWireTest, ARefusedMessageMakesTheNextSendFailOnce) {
   port.refuses = false;
   std::vector<Bytes> sent;
   const auto sendNext = [&] {
-    sent.push_back(Change(static_cast<int>(sent.size()) + 2));
+    sent.push_back(Change(sent.size() + 2));
     return wire->Send(sent.back());
   };
   ASSERT_TRUE(Eventually([&] { return sendNext() == MidiResultCode::NotReady; }));
