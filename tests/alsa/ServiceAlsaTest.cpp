@@ -85,20 +85,6 @@ protected:
     ASSERT_TRUE(LoadModule("snd-virmidi"));
   }
 
-  MidiHandle OpenOut(const std::string &name) {
-    MidiHandle handle = 0;
-    EXPECT_EQ(service->midiOutOpen(handle, IndexOf(OutNames(*service), name), 1, 0, 0), 0U) << name;
-    return handle;
-  }
-
-  MidiHandle OpenThru(const std::string &name, MidiHandle out) {
-    MidiHandle handle = 0;
-    EXPECT_EQ(service->midiInOpen(handle, IndexOf(InNames(*service), name), 0, 0, 0), 0U) << name;
-    EXPECT_EQ(service->midiConnect(handle, out), 0U);
-    EXPECT_EQ(service->midiInStart(handle), 0U);
-    return handle;
-  }
-
   std::unique_ptr<MidiService> service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
 };
 
@@ -124,7 +110,7 @@ TEST_F(ServiceAlsaTest, OwnPortsAreNotListed) {
   const Keyboard keyboard("keyboard", RtMidi::LINUX_ALSA);
   const std::vector<std::string> outs = OutNames(*service);
   const std::vector<std::string> ins = InNames(*service);
-  OpenThru("keyboard:out", OpenOut("synth:in"));
+  OpenThru(*service, "keyboard:out", OpenOut(*service, "synth:in"));
   EXPECT_EQ(OutNames(*service), outs);
   EXPECT_EQ(InNames(*service), ins);
 }
@@ -155,7 +141,7 @@ TEST_F(ServiceAlsaTest, AnInitLeavesTheWireOfACardByteForByte) {
 TEST_F(ServiceAlsaTest, WhatIsPlayedPassesThroughWhole) {
   Synth synth("synth", RtMidi::LINUX_ALSA);
   Keyboard keyboard("keyboard", RtMidi::LINUX_ALSA);
-  OpenThru("keyboard:out", OpenOut("synth:in"));
+  OpenThru(*service, "keyboard:out", OpenOut(*service, "synth:in"));
   const std::vector<Bytes> played{{0x90, 60, 100},  {0x80, 60, 0},      {0xB0, 1, 64}, {0xC0, 5},
                                   {0xE0, 0x12, 60}, {0xF0, 1, 2, 0xF7}, {0xF8},        {0xFE}};
   for (const Bytes &message : played)
@@ -167,7 +153,7 @@ TEST_F(ServiceAlsaTest, WhatIsPlayedPassesThroughWhole) {
 TEST_F(ServiceAlsaTest, ALongMessagePassesThroughWhole) {
   Synth synth("synth", RtMidi::LINUX_ALSA);
   Keyboard keyboard("keyboard", RtMidi::LINUX_ALSA);
-  OpenThru("keyboard:out", OpenOut("synth:in"));
+  OpenThru(*service, "keyboard:out", OpenOut(*service, "synth:in"));
   Bytes dump(393, 0x55); // as long as a sound dump of the microQ
   dump.front() = 0xF0;
   dump.back() = 0xF7;
@@ -185,7 +171,7 @@ TEST_F(ServiceAlsaTest, ThePortOfTheMonitorIsListedAndHears) {
         heard.emplace_back(message.begin(), message.end());
       });
   ASSERT_NE(port, nullptr);
-  ASSERT_EQ(SendLong(*service, OpenOut("microQ (monitor)"), Change(78, 64)), 0U);
+  ASSERT_EQ(SendLong(*service, OpenOut(*service, "microQ (monitor)"), Change(78, 64)), 0U);
   EXPECT_TRUE(Eventually([&] {
     const std::lock_guard lock(mutex);
     return heard == std::vector<Bytes>{Change(78, 64)};
@@ -193,7 +179,7 @@ TEST_F(ServiceAlsaTest, ThePortOfTheMonitorIsListedAndHears) {
 }
 
 TEST_F(ServiceAlsaTest, ACardThatIsPulledMakesSendsFailUntilItIsBack) {
-  const MidiHandle out = OpenOut(Card);
+  const MidiHandle out = OpenOut(*service, Card);
   ASSERT_EQ(SendLong(*service, out, Change(1, 1)), 0U);
 
   PullCard();

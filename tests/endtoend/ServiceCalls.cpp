@@ -1,5 +1,7 @@
 #include "tests/endtoend/ServiceCalls.hpp"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 namespace Tessoro::Tests {
@@ -57,6 +59,20 @@ std::vector<std::string> InNames(MidiService &service) {
 std::int32_t IndexOf(const std::vector<std::string> &names, const std::string &name) {
   const auto found = std::find(names.begin(), names.end(), name);
   return found == names.end() ? -2 : static_cast<std::int32_t>(found - names.begin());
+}
+
+MidiHandle OpenOut(MidiService &service, const std::string &name) {
+  MidiHandle handle = 0;
+  EXPECT_EQ(service.midiOutOpen(handle, IndexOf(OutNames(service), name), 1, 0, 0), 0U) << name;
+  return handle;
+}
+
+MidiHandle OpenThru(MidiService &service, const std::string &name, MidiHandle out) {
+  MidiHandle handle = 0;
+  EXPECT_EQ(service.midiInOpen(handle, IndexOf(InNames(service), name), 0, 0, 0), 0U) << name;
+  EXPECT_EQ(service.midiConnect(handle, out), 0U);
+  EXPECT_EQ(service.midiInStart(handle), 0U);
+  return handle;
 }
 
 } // namespace Tessoro::Tests

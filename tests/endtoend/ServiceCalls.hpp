@@ -18,6 +18,11 @@ MidiResult SendLong(MidiService &service, MidiHandle out, const std::vector<std:
 std::vector<std::string> OutNames(MidiService &service);
 std::vector<std::string> InNames(MidiService &service);
 
+// By names of these lists. A port that can't be opened is a failure of the test.
+MidiHandle OpenOut(MidiService &service, const std::string &name);
+// What comes in there passes on to the OUT port from now on.
+MidiHandle OpenThru(MidiService &service, const std::string &name, MidiHandle out);
+
 // -2 for a name that isn't among them.
 std::int32_t IndexOf(const std::vector<std::string> &names, const std::string &name);
 

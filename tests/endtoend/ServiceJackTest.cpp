@@ -21,20 +21,6 @@ bool IsChange(const Bytes &bytes) { return bytes.front() == 0xF0; }
 
 class ServiceJackTest : public testing::Test {
 protected:
-  MidiHandle OpenOut(const std::string &name) {
-    MidiHandle handle = 0;
-    EXPECT_EQ(service->midiOutOpen(handle, IndexOf(OutNames(*service), name), 1, 0, 0), 0U) << name;
-    return handle;
-  }
-
-  MidiHandle OpenThru(const std::string &name, MidiHandle out) {
-    MidiHandle handle = 0;
-    EXPECT_EQ(service->midiInOpen(handle, IndexOf(InNames(*service), name), 0, 0, 0), 0U) << name;
-    EXPECT_EQ(service->midiConnect(handle, out), 0U);
-    EXPECT_EQ(service->midiInStart(handle), 0U);
-    return handle;
-  }
-
   template <typename Instrument>
   static Instrument &Plug(std::vector<std::unique_ptr<Instrument>> &rack,
                           const std::string &client) {
@@ -64,15 +50,15 @@ TEST_F(ServiceJackTest, ListsTheServersPortsBeforeTheBuiltInDevices) {
 TEST_F(ServiceJackTest, NeverListsItsOwnPorts) {
   Plug(synths, "synth");
   Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  OpenThru(*service, "keyboard:out", out);
   EXPECT_EQ(OutNames(*service), (std::vector<std::string>{"synth:in", "microQ (built-in)"}));
   EXPECT_EQ(InNames(*service), (std::vector<std::string>{"keyboard:out", "Silence (built-in)"}));
 }
 
 TEST_F(ServiceJackTest, AChangeArrivesAsItsTenBytes) {
   Synth &synth = Plug(synths, "synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   ASSERT_EQ(SendLong(*service, out, Change(78, 64)), 0U);
   ASSERT_TRUE(Eventually([&] { return synth.Count() == 1; }));
   EXPECT_EQ(synth.Messages()[0],
@@ -81,7 +67,7 @@ TEST_F(ServiceJackTest, AChangeArrivesAsItsTenBytes) {
 
 TEST_F(ServiceJackTest, ShortMessagesArriveAsLongAsTheirStatusSays) {
   Synth &synth = Plug(synths, "synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   EXPECT_EQ(service->midiOutShortMsg(out, 0x00642490), 0U);
   EXPECT_EQ(service->midiOutShortMsg(out, 0x00007BC0), 0U);
   ASSERT_TRUE(Eventually([&] { return synth.Count() == 2; }));
@@ -113,8 +99,8 @@ TEST_F(ServiceJackTest, TwoThousandChangesArriveAtTheSpeedOfTheCableWithNotesBet
   constexpr int notes = 25;
   Synth &synth = Plug(synths, "synth");
   Keyboard &keyboard = Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  OpenThru(*service, "keyboard:out", out);
 
   const auto begin = Clock::now();
   for (int i = 0; i < changes; ++i) {
@@ -163,8 +149,8 @@ TEST_F(ServiceJackTest, AThousandNotesPassWholeAndInOrderBetweenWholeChanges) {
   constexpr int notes = 1000;
   Synth &synth = Plug(synths, "synth");
   Keyboard &keyboard = Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  OpenThru(*service, "keyboard:out", out);
 
   int sentChanges = 0;
   for (int i = 0; i < notes; ++i) {
@@ -197,8 +183,8 @@ TEST_F(ServiceJackTest, AThousandNotesPassWholeAndInOrderBetweenWholeChanges) {
 TEST_F(ServiceJackTest, SystemMessagesPassThruToo) {
   Synth &synth = Plug(synths, "synth");
   Keyboard &keyboard = Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  OpenThru(*service, "keyboard:out", out);
 
   Bytes dump(392, 0x11);
   dump.front() = 0xF0;
@@ -215,8 +201,8 @@ TEST_F(ServiceJackTest, SystemMessagesPassThruToo) {
 TEST_F(ServiceJackTest, NothingPassesThruWhenStoppedOrDisconnected) {
   Synth &synth = Plug(synths, "synth");
   Keyboard &keyboard = Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  const MidiHandle in = OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  const MidiHandle in = OpenThru(*service, "keyboard:out", out);
 
   ASSERT_EQ(service->midiInStop(in), 0U);
   keyboard.Play({0x90, 1, 1});
@@ -232,7 +218,7 @@ TEST_F(ServiceJackTest, NothingPassesThruWhenStoppedOrDisconnected) {
 
 TEST_F(ServiceJackTest, APortThatGoesMakesSendsFailUntilItIsBack) {
   auto synth = std::make_unique<Synth>("synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   ASSERT_EQ(SendLong(*service, out, Change(1, 1)), 0U);
 
   synth.reset();
@@ -250,8 +236,8 @@ TEST_F(ServiceJackTest, APortThatGoesMakesSendsFailUntilItIsBack) {
 TEST_F(ServiceJackTest, AKeyboardThatComesBackPlaysAgain) {
   Synth &synth = Plug(synths, "synth");
   auto keyboard = std::make_unique<Keyboard>("keyboard");
-  const MidiHandle out = OpenOut("synth:in");
-  const MidiHandle in = OpenThru("keyboard:out", out);
+  const MidiHandle out = OpenOut(*service, "synth:in");
+  const MidiHandle in = OpenThru(*service, "keyboard:out", out);
   keyboard.reset();
   std::this_thread::sleep_for(600ms);
   keyboard = std::make_unique<Keyboard>("keyboard");
@@ -265,7 +251,7 @@ TEST_F(ServiceJackTest, AKeyboardThatComesBackPlaysAgain) {
 
 TEST_F(ServiceJackTest, AServerThatDiesMakesSendsFailUntilItIsBack) {
   auto synth = std::make_unique<Synth>("synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   ASSERT_EQ(SendLong(*service, out, Change(1, 1)), 0U);
 
   // The synthesizer lives in this process, where JACK's library would destroy it with the server.
@@ -285,7 +271,7 @@ TEST_F(ServiceJackTest, WhatIsSentRightAfterOpeningArrives) {
   constexpr int openings = 20;
   Synth &synth = Plug(synths, "synth");
   for (int i = 0; i < openings; ++i) {
-    const MidiHandle out = OpenOut("synth:in");
+    const MidiHandle out = OpenOut(*service, "synth:in");
     ASSERT_EQ(SendLong(*service, out, Change(i, 1)), 0U);
     ASSERT_EQ(service->midiOutClose(out), 0U);
   }
@@ -295,7 +281,7 @@ TEST_F(ServiceJackTest, WhatIsSentRightAfterOpeningArrives) {
 TEST_F(ServiceJackTest, ClosingFirstSendsWhatWasAccepted) {
   constexpr int changes = 200;
   Synth &synth = Plug(synths, "synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   for (int i = 0; i < changes; ++i) {
     ASSERT_EQ(SendLong(*service, out, Change(i, 1)), 0U);
   }
@@ -307,7 +293,7 @@ TEST_F(ServiceJackTest, ClosingFirstSendsWhatWasAccepted) {
 TEST_F(ServiceJackTest, TheEndOfTheServiceFirstSendsWhatWasAccepted) {
   constexpr int changes = 50;
   Synth &synth = Plug(synths, "synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   for (int i = 0; i < changes; ++i) {
     ASSERT_EQ(SendLong(*service, out, Change(i, 1)), 0U);
   }
@@ -317,7 +303,7 @@ TEST_F(ServiceJackTest, TheEndOfTheServiceFirstSendsWhatWasAccepted) {
 
 TEST_F(ServiceJackTest, ClosingDoesNotWaitForAPortThatHasGone) {
   auto synth = std::make_unique<Synth>("synth");
-  const MidiHandle out = OpenOut("synth:in");
+  const MidiHandle out = OpenOut(*service, "synth:in");
   for (int i = 0; i < 3000; ++i) { // ten seconds of cable
     ASSERT_EQ(SendLong(*service, out, Change(i % 384, 1)), 0U);
   }
