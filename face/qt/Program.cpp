@@ -30,6 +30,14 @@ QIcon WindowIcon() {
   return icon;
 }
 
+// Whether a folder of programs is the whole machine's, as /usr/bin is. The superuser may write
+// there, which doesn't make it his own.
+bool ServesAllUsers(const QString &folder) {
+  QStringList shares = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+  shares.removeFirst(); // the user's own
+  return shares.contains(QDir::cleanPath(folder + QStringLiteral("/../share")));
+}
+
 } // namespace
 
 void DressApplication() {
@@ -46,7 +54,7 @@ void DressApplication() {
 
 std::string ProgramPath() {
   const QString own = QCoreApplication::applicationDirPath();
-  if (QFileInfo(own).isWritable())
+  if (QFileInfo(own).isWritable() && !ServesAllUsers(own))
     return TextFromQt(own);
   const QString ofUser =
       QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))

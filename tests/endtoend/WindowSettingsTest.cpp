@@ -18,11 +18,11 @@ constexpr const char *WriteError = "Error writing INI file[.]";
 
 class WindowSettingsTest : public PluggedEditorTest {
 protected:
-  void Start() {
+  void Start(std::vector<std::string> environment = {}) {
     outPlace = PlaceOfSynth();
     inPlace = PlaceOfKeyboard();
-    editor = std::make_unique<WindowedEditor>(
-        display, place, std::vector<std::string>{"XDG_CONFIG_HOME=" + ConfigHome().string()});
+    environment.push_back("XDG_CONFIG_HOME=" + ConfigHome().string());
+    editor = std::make_unique<WindowedEditor>(display, place, environment);
   }
 
   fs::path ConfigHome() const { return place.Path() / "config"; }
@@ -115,6 +115,18 @@ TEST_F(WindowSettingsTest, BesideAProgramThatOthersInstalledTheUsersOwnFolderIsT
   editor->CloseMainWindow();
   ExpectEnd();
   EXPECT_THAT(Content(SettingsOfUser()), testing::StartsWith("\"Tessoro v1.3.1\"\r\n"));
+  EXPECT_FALSE(fs::exists(place.Settings()));
+}
+
+// As it is for the superuser in /usr/bin, whose data stand in /usr/share.
+TEST_F(WindowSettingsTest, OfAnInstallationForTheWholeMachineNobodyTakesTheProgramsFolder) {
+  fs::create_directory(ConfigHome());
+  Start({"XDG_DATA_DIRS=" + (place.Path().parent_path() / "share").string() + ":/usr/share"});
+  editor->CloseHint();
+  ChoosePortsAndExpectUsable();
+  editor->CloseMainWindow();
+  ExpectEnd();
+  EXPECT_TRUE(fs::exists(SettingsOfUser()));
   EXPECT_FALSE(fs::exists(place.Settings()));
 }
 
