@@ -132,7 +132,8 @@ void Call(Session &session, const Words &words) {
   session.App.Event([&] { routine->play(session, arguments); });
 }
 
-constexpr Command Table[] = {{"call", "ROUTINE [VALUE...]", Call}};
+constexpr Command Table[] = {
+    {"call", "ROUTINE [VALUE...]", Call, "calls a routine of the editor, as SendSoundParam"}};
 
 } // namespace
 

@@ -134,9 +134,13 @@ void Dump(Session &session, const Words &words) {
 }
 
 constexpr Command Table[] = {
-    {"set", "PROPERTY VALUE", Set}, {"get", "PROPERTY", Get},   {"items", "CONTROL", Items},
-    {"load", "FORM", LoadForm},     {"show", "FORM", ShowForm}, {"unload", "FORM", UnloadForm},
-    {"dump", "FORM", Dump},
+    {"set", "PROPERTY VALUE", Set, "writes a property or a global as code does"},
+    {"get", "PROPERTY", Get, "prints it, as in get F_Tessoro.TextF1_cutoff.Text"},
+    {"items", "CONTROL", Items, "prints the items of a list"},
+    {"load", "FORM", LoadForm, "loads a form"},
+    {"show", "FORM", ShowForm, "shows it"},
+    {"unload", "FORM", UnloadForm, "takes it away"},
+    {"dump", "FORM", Dump, "prints every property of every control of a form"},
 };
 
 } // namespace

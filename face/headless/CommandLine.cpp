@@ -1,5 +1,6 @@
 #include "face/headless/CommandLine.hpp"
 
+#include "face/headless/Commands.hpp"
 #include "face/headless/Script.hpp"
 #include "face/headless/Session.hpp"
 #include "files/StandardFileSystem.hpp"
@@ -21,8 +22,31 @@ constexpr std::string_view Usage =
     "\n"
     "  --directory DIR  the program's own directory, where Tessoro.ini stands\n"
     "                   (default: the current directory)\n"
-    "  --help           prints this and plays nothing\n"
+    "  --help           prints this and the commands, and plays nothing\n"
     "  SCRIPT           a file with one command a line (default: standard input)\n";
+
+// How the words of a command are written.
+constexpr std::string_view Notation =
+    "\nA TEXT stands in double quotes, a NUMBER bare. A CONTROL is named with its form, as in\n"
+    "F_Tessoro.TextF1_cutoff. A line that begins with # is skipped. The commands:\n\n";
+
+constexpr std::string_view More =
+    "\nman tessoro-headless tells more of them, and how to read what is printed.\n";
+
+void PrintHelp(std::ostream &output) {
+  constexpr std::size_t purposeColumn = 34;
+  output << Usage << Notation;
+  for (const Commands table : CommandTables())
+    for (const Command &command : table) {
+      std::string line = "  " + std::string(command.name) + ' ' + std::string(command.shape);
+      if (line.size() >= purposeColumn)
+        line += '\n' + std::string(purposeColumn, ' ');
+      else
+        line.resize(purposeColumn, ' ');
+      output << line << command.purpose << '\n';
+    }
+  output << More;
+}
 
 struct Options {
   bool help = false;
@@ -71,7 +95,7 @@ int RunCommandLine(std::span<const char *const> arguments, std::istream &input,
     return ExitStatus::NotUnderstood;
   }
   if (options.help) {
-    output << Usage;
+    PrintHelp(output);
     return ExitStatus::Played;
   }
   Session session(ProgramPath(options.directory), output);

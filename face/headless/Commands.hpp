@@ -3,6 +3,7 @@
 
 #include "face/headless/ScriptWords.hpp"
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -21,6 +22,8 @@ struct Command {
   std::string_view shape;
   // Is handed the words behind the name, which fit the shape.
   void (*play)(Session &session, const Words &words);
+  // What it does, for the help; the names of routines speak for themselves.
+  std::string_view purpose = {};
   Allowed allowed = Allowed::Always;
 };
 
@@ -31,6 +34,9 @@ Commands UserCommands();
 Commands MouseCommands();
 Commands CodeCommands();
 Commands CallCommands();
+
+// All of them.
+std::array<Commands, 5> CommandTables();
 
 // Null for a name that isn't in the table.
 const Command *FindCommand(Commands table, std::string_view name);

@@ -99,9 +99,9 @@ void Mouse(Session &session, const Words &words) {
 }
 
 constexpr Command Table[] = {
-    {"click", "CONTROL", Click},
-    {"dblclick", "CONTROL", DoubleClick},
-    {"mouse", "ACT CONTROL NUMBER NUMBER", Mouse},
+    {"click", "CONTROL", Click, "clicks on anything that can be clicked"},
+    {"dblclick", "CONTROL", DoubleClick, "clicks twice"},
+    {"mouse", "ACT CONTROL NUMBER NUMBER", Mouse, "down, move or up at X Y, 15 to a pixel"},
 };
 
 } // namespace

@@ -11,8 +11,7 @@ namespace Tessoro {
 namespace {
 
 const Command *FindCommand(std::string_view name) {
-  for (const Commands table :
-       {SetUpCommands(), UserCommands(), MouseCommands(), CodeCommands(), CallCommands()})
+  for (const Commands table : CommandTables())
     if (const Command *command = FindCommand(table, name))
       return command;
   return nullptr;
@@ -49,6 +48,10 @@ bool Fits(std::string_view shape, Words::const_iterator word, Words::const_itera
 }
 
 } // namespace
+
+std::array<Commands, 5> CommandTables() {
+  return {SetUpCommands(), UserCommands(), MouseCommands(), CodeCommands(), CallCommands()};
+}
 
 const Command *FindCommand(Commands table, std::string_view name) {
   const auto found = std::ranges::find(table, name, &Command::name);

@@ -68,12 +68,14 @@ void Start(Session &session, const Words & /*words*/) {
 }
 
 constexpr Command Table[] = {
-    {"midi-out", "TEXT [NUMBER NUMBER NUMBER NUMBER]", MidiOut, Allowed::BeforeStart},
-    {"midi-in", "TEXT", MidiIn, Allowed::BeforeStart},
-    {"midi-fail", "OPERATION NUMBER [NUMBER]", MidiFail},
-    {"random", "NUMBER...", Random},
-    {"decimal", "TEXT", Decimal, Allowed::BeforeStart},
-    {"start", "", Start},
+    {"midi-out", "TEXT [NUMBER NUMBER NUMBER NUMBER]", MidiOut,
+     "an OUT device to choose, by name and numbers", Allowed::BeforeStart},
+    {"midi-in", "TEXT", MidiIn, "an IN device to choose, by name", Allowed::BeforeStart},
+    {"midi-fail", "OPERATION NUMBER [NUMBER]", MidiFail,
+     "the operation gives that error, so many times"},
+    {"random", "NUMBER...", Random, "what chance will give, each from 0 up to but not 1"},
+    {"decimal", "TEXT", Decimal, "the decimal sign", Allowed::BeforeStart},
+    {"start", "", Start, "the editor starts"},
 };
 
 } // namespace

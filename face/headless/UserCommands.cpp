@@ -135,13 +135,20 @@ void Tick(Session &session, const Words &words) {
 }
 
 constexpr Command Table[] = {
-    {"type", "CONTROL TEXT", Type},       {"erase", "CONTROL", Erase},
-    {"paste", "CONTROL TEXT", Paste},     {"enter", "CONTROL", Enter},
-    {"select", "CONTROL NUMBER", Select}, {"scroll", "CONTROL NUMBER", Scroll},
-    {"keydown", "FORM NUMBER", KeyDown},  {"keyup", "FORM NUMBER", KeyUp},
-    {"menu", "ENTRY", ClickMenu},         {"shortcut", "TEXT", Shortcut},
-    {"choose", "CONTROL TEXT", Choose},   {"close", "FORM", Close},
-    {"answer", "BUTTON...", Answer},      {"tick", "NUMBER", Tick},
+    {"type", "CONTROL TEXT", Type, "keys into a box, one after the other"},
+    {"erase", "CONTROL", Erase, "empties a box"},
+    {"paste", "CONTROL TEXT", Paste, "puts the text into a box at once"},
+    {"enter", "CONTROL", Enter, "the Enter key in a box"},
+    {"select", "CONTROL NUMBER", Select, "picks an item of a list, counted from 0"},
+    {"scroll", "CONTROL NUMBER", Scroll, "moves a bar to that value"},
+    {"keydown", "FORM NUMBER", KeyDown, "presses a key, by its code"},
+    {"keyup", "FORM NUMBER", KeyUp, "lets go of it"},
+    {"menu", "ENTRY", ClickMenu, "picks a menu entry, as Menu_Panic"},
+    {"shortcut", "TEXT", Shortcut, "keys over the main form, as \"Ctrl+O\""},
+    {"choose", "CONTROL TEXT", Choose, "picks from a list of drives, folders or files"},
+    {"close", "FORM", Close, "the cross of a window"},
+    {"answer", "BUTTON...", Answer, "answers the boxes to come: OK, Cancel, Yes, No"},
+    {"tick", "NUMBER", Tick, "lets so many milliseconds pass"},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 // What tessoro-headless makes of the words that it is started with.
 #include "face/headless/CommandLine.hpp"
+#include "face/headless/Commands.hpp"
 #include "face/headless/Script.hpp"
 
 #include <gtest/gtest.h>
@@ -76,6 +77,16 @@ TEST_F(HeadlessCommandLine, HelpPlaysNothing) {
   EXPECT_EQ(Run({"--help", "no such script"}), ExitStatus::Played);
   EXPECT_TRUE(output.str().starts_with("usage: tessoro-headless")) << output.str();
   EXPECT_EQ(errors.str(), "");
+}
+
+TEST_F(HeadlessCommandLine, HelpListsEveryCommandWithWhatItTakesAndDoes) {
+  Run({"--help"});
+  for (const Commands table : CommandTables())
+    for (const Command &command : table) {
+      EXPECT_NE(command.purpose, "") << command.name;
+      for (const std::string_view part : {command.name, command.shape, command.purpose})
+        EXPECT_NE(output.str().find(part), std::string::npos) << command.name << ": " << part;
+    }
 }
 
 TEST_F(HeadlessCommandLine, SaysWhatItDoesNotTake) {
