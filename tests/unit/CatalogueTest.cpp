@@ -169,9 +169,11 @@ std::map<int, int> LastValues(const std::vector<std::string> &messages) {
 }
 
 TEST(Catalogue, HasNoNumberTwice) {
-  std::set<int> numbers;
-  for (const ParameterRow &row : AllRows())
-    EXPECT_TRUE(numbers.insert(row.number).second) << row.number;
+  std::map<int, std::string_view> names;
+  for (const ParameterRow &row : AllRows()) {
+    const auto [first, isNew] = names.emplace(row.number, row.name);
+    EXPECT_TRUE(isNew) << row.number << " is \"" << first->second << "\" and \"" << row.name << '"';
+  }
 }
 
 TEST(Catalogue, HasNoNameTwice) {
@@ -187,7 +189,8 @@ TEST(Catalogue, LeavesOutWhatIsNeverSentAndNothingElse) {
     for (int number = range.first; number <= range.last; ++number)
       never.insert(number);
   for (int number = 1; number <= HighestNumber; ++number)
-    EXPECT_EQ(FindParameter(number) == nullptr, never.contains(number)) << number;
+    EXPECT_EQ(FindParameter(number) == nullptr, never.contains(number))
+        << number << "; NeverSent above tells of it";
 }
 
 TEST(Catalogue, EndsAtItsLimits) {
@@ -208,7 +211,9 @@ TEST(Catalogue, HasAGapAt256WhereTheAddressesHaveNone) {
 }
 
 TEST(Catalogue, HasTheseWireValues) {
-  EXPECT_EQ(AllRows().size(), std::size(WireClaims));
+  for (const ParameterRow &row : AllRows())
+    EXPECT_EQ(std::ranges::count(WireClaims, row.number, &WireClaim::number), 1)
+        << row.number << ' ' << row.name << "; WireClaims above tells of it";
   for (const WireClaim &claim : WireClaims) {
     SCOPED_TRACE(claim.number);
     const ParameterRow *row = FindParameter(claim.number);
