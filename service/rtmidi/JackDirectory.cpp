@@ -1,3 +1,4 @@
+#include "service/rtmidi/JackPresence.hpp"
 #include "service/rtmidi/PortDirectory.hpp"
 
 #include <jack/jack.h>
@@ -92,6 +93,9 @@ private:
   }
 
   void Join() {
+    if (!MayHaveJackServer(jack_get_version_string(), UsualJackServer(), JackSocketFolder)) {
+      return;
+    }
     client = jack_client_open(WatchClientName, JackNoStartServer, nullptr);
     if (client != nullptr) {
       jack_on_shutdown(client, &JackDirectory::ServerWent, this);
