@@ -5,6 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
+
 namespace Tessoro {
 
 namespace {
@@ -24,9 +26,33 @@ void ChangeAtNullService(benchmark::State &state) {
       static_cast<double>(HeapAllocations() - before), benchmark::Counter::kAvgIterations);
 }
 
+// A run of its own for each row, so that what a change leaves behind would be felt by the next.
+void ChangesAtNullService(benchmark::State &state, int changes) {
+  for ([[maybe_unused]] auto iteration : state) {
+    state.PauseTiming();
+    NullMidi midi;
+    auto run = std::make_unique<QuietRun>(midi);
+    TextBox &box = run->app.F_Tessoro.TextF1_cutoff;
+    state.ResumeTiming();
+    for (int i = 0; i < changes; ++i)
+      box.SetText(i % 2 == 0 ? "64" : "63");
+    benchmark::DoNotOptimize(midi.seen);
+    state.PauseTiming();
+    run.reset();
+    state.ResumeTiming();
+  }
+}
+
 } // namespace
 
+std::string Benches::ChangesAtNullService(int changes) {
+  return std::to_string(changes) + " changes at a null service";
+}
+
 void Benches::RegisterChange() {
+  for (const int changes : NumbersOfChanges)
+    benchmark::RegisterBenchmark(ChangesAtNullService(changes).c_str(),
+                                 Tessoro::ChangesAtNullService, changes);
   benchmark::RegisterBenchmark(ChangeAtNullService, Tessoro::ChangeAtNullService);
 }
 

@@ -16,6 +16,7 @@ namespace {
 constexpr double NanosecondsInSecond = 1e9;
 constexpr double MicrosecondsInSecond = 1e6;
 constexpr double MillisecondsInSecond = 1e3;
+constexpr double NanosecondsInMicrosecond = 1e3;
 
 struct Effort {
   int benchmarkRepetitions;
@@ -51,14 +52,20 @@ void Measure(const Effort &effort) {
   if (!medians.AllWentThrough())
     throw std::runtime_error("a benchmark failed");
 
-  const auto nanoseconds = [&medians](const char *name) {
+  const auto nanoseconds = [&medians](const std::string &name) {
     return medians.Time(name) * NanosecondsInSecond;
   };
+  const double change = nanoseconds(Benches::ChangeAtNullService);
   const double bare = nanoseconds(Benches::BareMessageOverJack);
+  const auto eachOf = [&](int changes) {
+    return nanoseconds(Benches::ChangesAtNullService(changes)) / changes;
+  };
   const bool countsAreMet = PrintTable({
-      {"one change, text to a null service", nanoseconds(Benches::ChangeAtNullService), "ns", 1000},
+      {"one change, text to a null service", change, "ns", 1000},
       {"  its heap allocations",
        medians.Counter(Benches::ChangeAtNullService, Benches::Allocations), "", 0},
+      {"  each of 10,000", eachOf(10000), "ns", 1.5, "of 1,000", eachOf(1000)},
+      {"  each of 100,000", eachOf(100000), "ns", 1.5, "of 1,000", eachOf(1000)},
       {"a whole init to a null service",
        medians.Time(Benches::InitAtNullService) * MicrosecondsInSecond, "us", 200},
       {"  its heap allocations for a message",
@@ -67,13 +74,17 @@ void Measure(const Effort &effort) {
        nanoseconds(Benches::DragAtNullService) / Benches::MovesInDrag, "ns", 1000},
       {"  its heap allocations", medians.Counter(Benches::DragAtNullService, Benches::Allocations),
        "", 0},
-      {"one message to the service, JACK", nanoseconds(Benches::MessageThroughJack), "ns", 1.1,
+      {"one message of a row, JACK", nanoseconds(Benches::MessageThroughJack), "ns", 1.1,
        "bare sendMessage", bare},
-      {"one change, text to return, JACK", nanoseconds(Benches::ChangeThroughJack), "ns", 1.1,
-       "bare sendMessage", bare},
+      {"the first message of a row, JACK", nanoseconds(Benches::FirstMessageThroughJack), "ns", 2,
+       "waking a thread", nanoseconds(Benches::WakeOfThread)},
+      {"one change of a row, text to return, JACK", nanoseconds(Benches::ChangeThroughJack), "ns",
+       1.1, "null service + bare send", nanoseconds(Benches::ChangeAfterRest) + bare},
       {"a whole init, call to return, JACK",
-       medians.Time(Benches::InitThroughJack) * MicrosecondsInSecond, "us", 1.5, "a null service",
-       medians.Time(Benches::InitAtNullService) * MicrosecondsInSecond},
+       medians.Time(Benches::InitThroughJack) * MicrosecondsInSecond, "us", 1.5,
+       "null service + bare sends",
+       medians.Time(Benches::InitAfterRest) * MicrosecondsInSecond +
+           bare * Benches::MessagesInRow / NanosecondsInMicrosecond},
       {"one keystroke in the window (99th perc.)", keystrokes.editor, "us", 2,
        "a field of the library", keystrokes.bareField},
       {"load of a sound file", medians.Time(Benches::LoadOfSound) * MicrosecondsInSecond, "us", 20,
@@ -82,8 +93,12 @@ void Measure(const Effort &effort) {
        "bare write", medians.Time(Benches::BareWriteOfSound) * MicrosecondsInSecond},
       {"start to first frame", starts.editor.seconds * MillisecondsInSecond, "ms", 1.5,
        "empty window", starts.emptyWindow.seconds * MillisecondsInSecond},
+      {"  the same", starts.editor.seconds * MillisecondsInSecond, "ms", 1.5, "window with a word",
+       starts.windowWithWord.seconds * MillisecondsInSecond},
       {"peak memory", starts.editor.mebibytes, "MiB", 1.35, "empty window",
        starts.emptyWindow.mebibytes},
+      {"  the same", starts.editor.mebibytes, "MiB", 1.35, "window with a word",
+       starts.windowWithWord.mebibytes},
   });
   if (!countsAreMet)
     throw std::runtime_error("the heap is used where it must not be");

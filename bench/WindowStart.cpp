@@ -66,11 +66,13 @@ WindowStarts MeasureWindowStarts(int repetitions) {
   StartOnce(TESSORO_EDITOR_WINDOW, directory.Name());     // so that the disk has been read
   Samples editor;
   Samples emptyWindow;
+  Samples windowWithWord;
   for (int i = 0; i < repetitions; ++i) {
     emptyWindow.Add(StartOnce(TESSORO_EMPTY_WINDOW, directory.Name()));
+    windowWithWord.Add(StartOnce(TESSORO_WORD_WINDOW, directory.Name()));
     editor.Add(StartOnce(TESSORO_EDITOR_WINDOW, directory.Name()));
   }
-  return {editor.Medians(), emptyWindow.Medians()};
+  return {editor.Medians(), emptyWindow.Medians(), windowWithWord.Medians()};
 }
 
 } // namespace Tessoro

@@ -16,6 +16,7 @@ struct WindowStart {
 struct WindowStarts {
   WindowStart editor;
   WindowStart emptyWindow;
+  WindowStart windowWithWord;
 };
 
 // The medians of so many starts of each, by turns, on a virtual display. Throws where a program

@@ -1,4 +1,5 @@
 #include "bench/Benches.hpp"
+#include "bench/NullMidi.hpp"
 #include "bench/QuietPlatform.hpp"
 #include "service/MachineMidi.hpp"
 
@@ -8,9 +9,12 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <mutex>
+#include <string_view>
 #include <thread>
 
 namespace Tessoro {
@@ -50,20 +54,37 @@ bool HaveArrived(int count) {
   return arrived >= count;
 }
 
-// The messages of an init come in a row, and then nothing for a while: in a longer row each sender
-// would only wait for the server's next cycle.
-template <typename Send> void MeasureRows(benchmark::State &state, Send &&send) {
+// What the synth has to get, and then a rest, in which whoever sends forgets how it went.
+void Settle(benchmark::State &state, int messages) {
+  if (!HaveArrived(messages))
+    state.SkipWithError("messages were lost");
+  std::this_thread::sleep_for(RestBetweenRows);
+  arrived = 0;
+}
+
+// The messages of an init come in a row, and then nothing for a while: in a longer row a bare
+// sender would only wait for the server's next cycle. The first one wakes the thread that paces the
+// wire, and is measured apart from the others.
+enum class Part : std::uint8_t { First, EachOfTheOthers };
+
+template <typename Send, typename Settle>
+void MeasureRows(benchmark::State &state, Part part, Send &&send, Settle &&settle) {
   for ([[maybe_unused]] auto iteration : state) {
     const Clock::time_point begin = Clock::now();
-    for (int i = 0; i < Benches::MessagesInRow; ++i)
+    send(0);
+    const Clock::time_point second = Clock::now();
+    for (int i = 1; i < Benches::MessagesInRow; ++i)
       send(i);
-    const std::chrono::duration<double> time = Clock::now() - begin;
-    state.SetIterationTime(time.count() / Benches::MessagesInRow);
-    if (!HaveArrived(Benches::MessagesInRow))
-      state.SkipWithError("messages were lost");
-    std::this_thread::sleep_for(RestBetweenRows);
-    arrived = 0;
+    const std::chrono::duration<double> first = second - begin;
+    const std::chrono::duration<double> others = Clock::now() - second;
+    state.SetIterationTime(part == Part::First ? first.count()
+                                               : others.count() / (Benches::MessagesInRow - 1));
+    settle();
   }
+}
+
+template <typename Send> void MeasureRowsOnWire(benchmark::State &state, Part part, Send &&send) {
+  MeasureRows(state, part, send, [&state] { Settle(state, Benches::MessagesInRow); });
 }
 
 std::int32_t DeviceNumberOfSynth(MidiService &service) {
@@ -78,45 +99,67 @@ std::int32_t DeviceNumberOfSynth(MidiService &service) {
   std::exit(EXIT_FAILURE);
 }
 
+std::string_view ValueOfTurn(int turn) { return turn % 2 == 0 ? "64" : "63"; }
+
+// The cable is as long on its way with a row that goes to a port.
+void RestLikeTheCable() { std::this_thread::sleep_for(1s); }
+
+void ChangeAfterRest(benchmark::State &state) {
+  NullMidi midi;
+  QuietRun run(midi);
+  TextBox &box = run.app.F_Tessoro.TextF1_cutoff;
+  MeasureRows(
+      state, Part::EachOfTheOthers, [&box](int i) { box.SetText(ValueOfTurn(i)); },
+      RestLikeTheCable);
+}
+
 void ChangeThroughJack(benchmark::State &state) {
-  const auto service =
-      MakeMachineMidiService(std::make_shared<BuiltinMicroQ>(), UnlimitedBytesPerSecond);
+  const auto service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
   QuietRun run(*service);
   run.app.Module1.MidiOutPort = DeviceNumberOfSynth(*service);
   run.app.Module1.OpenCloseMidiOut("open");
   TextBox &box = run.app.F_Tessoro.TextF1_cutoff;
-  MeasureRows(state, [&box](int i) { box.SetText(i % 2 == 0 ? "64" : "63"); });
+  MeasureRowsOnWire(state, Part::EachOfTheOthers, [&box](int i) { box.SetText(ValueOfTurn(i)); });
   run.app.Module1.OpenCloseMidiOut("close");
 }
 
+double SecondsOfInit(Application &app) {
+  const Clock::time_point begin = Clock::now();
+  app.F_Tessoro.InitPanelParams();
+  const std::chrono::duration<double> time = Clock::now() - begin;
+  return time.count();
+}
+
 // Of a fresh run each time, as the first init sends most.
+void InitAfterRest(benchmark::State &state) {
+  for ([[maybe_unused]] auto iteration : state) {
+    NullMidi midi;
+    QuietRun run(midi);
+    RestLikeTheCable();
+    state.SetIterationTime(SecondsOfInit(run.app));
+  }
+}
+
 void InitThroughJack(benchmark::State &state) {
-  const auto service =
-      MakeMachineMidiService(std::make_shared<BuiltinMicroQ>(), UnlimitedBytesPerSecond);
+  const auto service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
   for ([[maybe_unused]] auto iteration : state) {
     QuietRun run(*service);
     run.app.Module1.MidiOutPort = DeviceNumberOfSynth(*service);
     run.app.Module1.OpenCloseMidiOut("open");
-    const Clock::time_point begin = Clock::now();
-    run.app.F_Tessoro.InitPanelParams();
-    const std::chrono::duration<double> time = Clock::now() - begin;
-    state.SetIterationTime(time.count());
-    run.app.Module1.OpenCloseMidiOut("close");    // hands out what still waits
-    if (!HaveArrived(Benches::MessagesInRow / 2)) // the others are shorter
-      state.SkipWithError("messages were lost");
-    std::this_thread::sleep_for(RestBetweenRows);
-    arrived = 0;
+    RestLikeTheCable();
+    state.SetIterationTime(SecondsOfInit(run.app));
+    run.app.Module1.OpenCloseMidiOut("close"); // hands out what still waits
+    Settle(state, Benches::MessagesInRow / 2); // the others are shorter
   }
 }
 
-void MessageThroughJack(benchmark::State &state) {
-  const auto service =
-      MakeMachineMidiService(std::make_shared<BuiltinMicroQ>(), UnlimitedBytesPerSecond);
+void MessageThroughJack(benchmark::State &state, Part part) {
+  const auto service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
   MidiHandle handle = 0;
   service->midiOutOpen(handle, DeviceNumberOfSynth(*service), 0, 0, 0);
   constexpr std::uint32_t size = 24 + Message.size();
   MidiResult results = MidiResultCode::Success;
-  MeasureRows(state, [&](int /*i*/) {
+  MeasureRowsOnWire(state, part, [&](int /*i*/) {
     MIDIHDR header;
     header.lpData = Message.data();
     header.dwBufferLength = Message.size();
@@ -135,7 +178,39 @@ void BareMessageOverJack(benchmark::State &state) {
   while (number < port.getPortCount() && port.getPortName(number).find(PortName) != 0)
     ++number;
   port.openPort(number);
-  MeasureRows(state, [&port](int /*i*/) { port.sendMessage(Message.data(), Message.size()); });
+  MeasureRowsOnWire(state, Part::EachOfTheOthers,
+                    [&port](int /*i*/) { port.sendMessage(Message.data(), Message.size()); });
+}
+
+// What nobody can do without who lets another thread do the work.
+void WakeOfThread(benchmark::State &state) {
+  std::mutex mutex;
+  std::condition_variable condition;
+  bool isRung = false;
+  bool isOver = false;
+  std::jthread sleeper([&] {
+    std::unique_lock lock(mutex);
+    while (!isOver) {
+      condition.wait(lock, [&] { return isRung; });
+      isRung = false;
+    }
+  });
+  const auto ring = [&](bool last) {
+    {
+      const std::lock_guard lock(mutex);
+      isRung = true;
+      isOver = last;
+    }
+    condition.notify_one();
+  };
+  for ([[maybe_unused]] auto iteration : state) {
+    std::this_thread::sleep_for(RestBetweenRows); // so that it sleeps
+    const Clock::time_point begin = Clock::now();
+    ring(false);
+    const std::chrono::duration<double> time = Clock::now() - begin;
+    state.SetIterationTime(time.count());
+  }
+  ring(true);
 }
 
 } // namespace
@@ -144,19 +219,19 @@ void Benches::RegisterWire() {
   Synth().ignoreTypes(false, false, false);
   Synth().setCallback(CountArrival);
   Synth().openVirtualPort("in");
-  constexpr int rows = 12;
-  benchmark::RegisterBenchmark(ChangeThroughJack, Tessoro::ChangeThroughJack)
-      ->UseManualTime()
-      ->Iterations(rows);
-  benchmark::RegisterBenchmark(InitThroughJack, Tessoro::InitThroughJack)
-      ->UseManualTime()
-      ->Iterations(rows);
-  benchmark::RegisterBenchmark(MessageThroughJack, Tessoro::MessageThroughJack)
-      ->UseManualTime()
-      ->Iterations(rows);
-  benchmark::RegisterBenchmark(BareMessageOverJack, Tessoro::BareMessageOverJack)
-      ->UseManualTime()
-      ->Iterations(rows);
+  constexpr int rowsOnCable = 2; // of a second each
+  constexpr int bareRows = 12;
+  const auto measure = [](const char *name, int rows, auto &&...what) {
+    benchmark::RegisterBenchmark(name, what...)->UseManualTime()->Iterations(rows);
+  };
+  measure(ChangeAfterRest, rowsOnCable, Tessoro::ChangeAfterRest);
+  measure(ChangeThroughJack, rowsOnCable, Tessoro::ChangeThroughJack);
+  measure(InitAfterRest, rowsOnCable, Tessoro::InitAfterRest);
+  measure(InitThroughJack, rowsOnCable, Tessoro::InitThroughJack);
+  measure(MessageThroughJack, rowsOnCable, Tessoro::MessageThroughJack, Part::EachOfTheOthers);
+  measure(FirstMessageThroughJack, rowsOnCable, Tessoro::MessageThroughJack, Part::First);
+  measure(BareMessageOverJack, bareRows, Tessoro::BareMessageOverJack);
+  measure(WakeOfThread, bareRows, Tessoro::WakeOfThread);
 }
 
 } // namespace Tessoro

@@ -18,9 +18,9 @@ std::size_t EntryBytes(std::size_t messageBytes) {
 
 } // namespace
 
-// The bytes stay uninitialised: the system gives the memory only when the queue gets that far.
+// All bytes are touched now, so that no message has to wait until the system brings a page in.
 MessageRing::MessageRing(std::size_t bytesOfRoom)
-    : room(bytesOfRoom), bytes(new std::uint8_t[bytesOfRoom]) {}
+    : room(bytesOfRoom), bytes(std::make_unique<std::uint8_t[]>(bytesOfRoom)) {}
 
 bool MessageRing::Put(MidiBytes message) {
   std::size_t position = putPosition.load(std::memory_order_relaxed);

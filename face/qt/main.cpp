@@ -1,4 +1,5 @@
 // The editor in windows.
+#include "face/qt/FontReading.hpp"
 #include "face/qt/MidiOfBuild.hpp"
 #include "face/qt/Program.hpp"
 
@@ -35,7 +36,9 @@ int main(int argc, char *argv[]) {
   for (int i = 1; i < argc; ++i)
     if (AnswersAlone(argv[i]))
       return 0;
+  Tessoro::FontReading fonts;
   const QApplication application(argc, argv);
+  fonts.End();
   Tessoro::DressApplication();
   const auto midi = Tessoro::MakeMidiService();
   return Tessoro::Program(*midi, Tessoro::ProgramPath()).Run();

@@ -42,7 +42,9 @@ public:
 
   std::shared_ptr<void> Hold() override { return nullptr; }
 
-  void ChangePorts(const std::function<void()> &change) override { change(); }
+  void OpenPort(const std::function<void()> &open) override { open(); }
+
+  void ClosePort(const std::function<void()> &close) override { close(); }
 
   void AwaitConnection() override {} // the kernel makes it before the call returns
 

@@ -1,3 +1,4 @@
+#include "service/rtmidi/JackPresence.hpp"
 #include "service/rtmidi/PortDirectory.hpp"
 
 #include <jack/jack.h>
@@ -53,13 +54,18 @@ public:
     return {nullptr, [this](void * /*nothing*/) { --holders; }};
   }
 
+  void OpenPort(const std::function<void()> &open) override {
+    const std::lock_guard lock(changeMutex);
+    open();
+  }
+
   // JACK tells every client of a change a few cycles later, and its library does not bear to forget
   // a port while it is being told. Changes of our own, or a port that went just now, are what there
   // is to be told of.
-  void ChangePorts(const std::function<void()> &change) override {
+  void ClosePort(const std::function<void()> &close) override {
     const std::lock_guard lock(changeMutex);
     std::this_thread::sleep_for(TimeForNews);
-    change();
+    close();
   }
 
   // The server takes a connection over between two cycles, and until then what is sent is lost.
@@ -92,6 +98,9 @@ private:
   }
 
   void Join() {
+    if (!MayHaveJackServer(jack_get_version_string(), UsualJackServer(), JackSocketFolder)) {
+      return;
+    }
     client = jack_client_open(WatchClientName, JackNoStartServer, nullptr);
     if (client != nullptr) {
       jack_on_shutdown(client, &JackDirectory::ServerWent, this);

@@ -36,16 +36,15 @@ MidiResult ConnectByName(PortDirectory &directory, PortDirection direction, cons
       }
       std::shared_ptr<void> hold = directory.Hold();
       std::shared_ptr<Port> candidate(make().release(), [hold, &directory](Port *made) {
-        directory.ChangePorts([made] { made->closePort(); });
-        directory.ChangePorts([made] { delete made; });
+        directory.ClosePort([made] { made->closePort(); });
+        directory.ClosePort([made] { delete made; });
       });
       // A client whose server died meanwhile has no ports, and must not be asked to open one.
       if (candidate->getPortCount() <= *place) {
         continue;
       }
       errors.TakeAny();
-      directory.ChangePorts(
-          [&] { candidate->openPort(static_cast<unsigned>(*place), ownPortName); });
+      directory.OpenPort([&] { candidate->openPort(static_cast<unsigned>(*place), ownPortName); });
       if (errors.TakeAny() || !candidate->isPortOpen()) {
         return MidiResultCode::NotReady;
       }

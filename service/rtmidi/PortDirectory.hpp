@@ -32,8 +32,9 @@ public:
   // the ports of a server that died are still held, the directory must not ask for a new one.
   virtual std::shared_ptr<void> Hold() = 0;
 
-  // Runs what opens or destroys a port of the library, one at a time.
-  virtual void ChangePorts(const std::function<void()> &change) = 0;
+  // Run what opens, and what closes or destroys, a port of the library: one at a time.
+  virtual void OpenPort(const std::function<void()> &open) = 0;
+  virtual void ClosePort(const std::function<void()> &close) = 0;
 
   // Returns when a connection that was made just now carries messages, or after a moment where the
   // system doesn't get on.

@@ -16,8 +16,8 @@ public:
 
   ~RtMidiVirtualIn() override {
     if (port != nullptr) {
-      directory->ChangePorts([this] { port->closePort(); });
-      directory->ChangePorts([this] { port.reset(); });
+      directory->ClosePort([this] { port->closePort(); });
+      directory->ClosePort([this] { port.reset(); });
     }
   }
   RtMidiVirtualIn(const RtMidiVirtualIn &) = delete;
@@ -29,7 +29,7 @@ public:
       errors.ListenTo(*port);
       port->ignoreTypes(false, false, false);
       port->setCallback(&RtMidiVirtualIn::Arrived, this);
-      directory->ChangePorts([&] { port->openVirtualPort(portName); });
+      directory->OpenPort([&] { port->openVirtualPort(portName); });
     } catch (const std::exception &) {
       return false;
     }
