@@ -72,6 +72,10 @@ bool BufferModel::IsMarked(int row) const {
   return rows.at(static_cast<std::size_t>(row)).isMarked;
 }
 
+bool BufferModel::HasMarks() const {
+  return std::any_of(rows.begin(), rows.end(), [](const Row &row) { return row.isMarked; });
+}
+
 bool BufferModel::IsWorthShowing(int row) const {
   const Row &asked = rows.at(static_cast<std::size_t>(row));
   return asked.isKnown || asked.value >= 0;

@@ -30,6 +30,7 @@ public:
   void Fade(Time now);
 
   bool IsMarked(int row) const;
+  bool HasMarks() const;
   // Whether the editor knows the parameter, or somebody has set it all the same.
   bool IsWorthShowing(int row) const;
 

@@ -1,5 +1,6 @@
 #include "face/microq/MicroQWindow.hpp"
 
+#include "face/microq/ScreenPace.hpp"
 #include "face/qt/Look.hpp"
 #include "service/builtin/MessageText.hpp"
 
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -22,7 +24,6 @@ namespace Tessoro {
 
 namespace {
 
-constexpr std::chrono::milliseconds RefreshInterval{33};
 constexpr int Margin = 10;
 constexpr int Gap = 6;
 
@@ -71,12 +72,17 @@ MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInb
   column->addWidget(statusLine);
 
   refreshTimer = new QTimer(this);
-  refreshTimer->setInterval(RefreshInterval);
+  refreshTimer->setTimerType(Qt::PreciseTimer);
   connect(refreshTimer, &QTimer::timeout, this, &MicroQWindow::Refresh);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
           &MicroQWindow::Copy);
+  inbox.SetBell([this] {
+    QMetaObject::invokeMethod(this, &MicroQWindow::StartLooking, Qt::QueuedConnection);
+  });
   resize(1080, 560);
 }
+
+MicroQWindow::~MicroQWindow() { inbox.SetBell({}); }
 
 QWidget *MicroQWindow::MakeMessagePane() {
   auto *pane = new QWidget;
@@ -175,6 +181,23 @@ void MicroQWindow::Refresh() {
       TakeMessages();
     ShowCounts();
   }
+  LookOnOrRest();
+}
+
+bool MicroQWindow::IsLooking() const { return refreshTimer->isActive(); }
+
+// Asked each time, as the window may have gone to another screen, or its screen changed its pace.
+void MicroQWindow::StartLooking() {
+  const std::chrono::milliseconds pace = ScreenPace::Interval(screen()->refreshRate());
+  if (isVisible() && (!IsLooking() || refreshTimer->intervalAsDuration() != pace))
+    refreshTimer->start(pace);
+}
+
+void MicroQWindow::LookOnOrRest() {
+  if (!buffer.HasMarks() && inbox.RingAtNext(seenTotal))
+    refreshTimer->stop();
+  else
+    StartLooking();
 }
 
 void MicroQWindow::TakeMessages() {
@@ -221,9 +244,8 @@ void MicroQWindow::Copy() {
 }
 
 void MicroQWindow::showEvent(QShowEvent *event) {
-  Refresh();
-  refreshTimer->start();
   QWidget::showEvent(event);
+  Refresh();
 }
 
 void MicroQWindow::hideEvent(QHideEvent *event) {

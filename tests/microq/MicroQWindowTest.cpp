@@ -1,4 +1,5 @@
 #include "face/microq/MicroQWindow.hpp"
+#include "face/microq/ScreenPace.hpp"
 #include "face/microq/WatchedMicroQ.hpp"
 #include "service/builtin/BuiltinSource.hpp"
 
@@ -6,16 +7,18 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <thread>
+#include <cmath>
 
 namespace Tessoro::Tests {
 namespace {
 
+using namespace std::chrono_literals;
 using Bytes = std::vector<std::uint8_t>;
 
 Bytes CutoffChange(int value) {
@@ -88,34 +91,51 @@ TEST_F(MicroQWindowTest, CopyPutsTheLinesOnTheClipboard) {
   EXPECT_TRUE(lines[1].endsWith(QStringLiteral("Note C3 on, velocity 100")));
 }
 
-TEST_F(MicroQWindowTest, AnswersWhileAHundredThousandMessagesComeAndKeepsTheLastTenThousand) {
-  constexpr int count = 100'000;
+TEST_F(MicroQWindowTest, LooksWhileSomethingHappensAndThenRests) {
   window.show();
-  std::atomic<bool> isSending = true;
-  std::thread sender([&] {
-    for (int i = 0; i < count; ++i)
-      microQ.Receive(Bytes{0xB0, static_cast<std::uint8_t>(i / 128 % 128),
-                           static_cast<std::uint8_t>(i % 128)});
-    isSending = false;
-  });
-  int clicks = 0;
-  while (isSending) {
-    QTest::mouseClick(ButtonCalled(QStringLiteral("&Pause")), Qt::LeftButton);
-    QTest::mouseClick(ButtonCalled(QStringLiteral("&Resume")), Qt::LeftButton);
-    QCoreApplication::processEvents();
-    ++clicks;
-  }
-  sender.join();
+  EXPECT_FALSE(window.IsLooking());
+  microQ.Receive(CutoffChange(64));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.IsLooking(); }));
+  // The value is marked for a while, and the mark has to go.
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window.IsLooking(); }));
+  EXPECT_EQ(window.Messages().rowCount(), 1);
+  EXPECT_FALSE(window.Buffer().HasMarks());
+  microQ.Receive(Bytes{0x90, 60, 100});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.Messages().rowCount() == 2; }));
+}
+
+TEST_F(MicroQWindowTest, RestsWhileItIsHidden) {
+  window.show();
+  window.hide();
+  microQ.Receive(CutoffChange(64));
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window.IsLooking());
+  EXPECT_EQ(window.Messages().rowCount(), 0);
+}
+
+TEST_F(MicroQWindowTest, GoesAtThePaceThatItsScreenHasNow) {
+  auto *timer = window.findChild<QTimer *>();
+  window.show();
+  microQ.Receive(CutoffChange(64));
   window.Refresh();
-  EXPECT_GT(clicks, 0);
-  EXPECT_EQ(inbox.Total(), static_cast<std::uint64_t>(count));
-  ASSERT_EQ(window.Messages().rowCount(), 10000);
-  for (int row = 0; row < 10000; ++row) {
-    const int sent = count - 10000 + row;
-    const MicroQMessage &meaning = window.Messages().At(row).meaning;
-    ASSERT_EQ(meaning.number, sent / 128 % 128) << row;
-    ASSERT_EQ(meaning.value, sent % 128) << row;
-  }
+  const auto pace = ScreenPace::Interval(window.screen()->refreshRate());
+  EXPECT_EQ(timer->intervalAsDuration(), pace);
+  timer->start(pace * 3); // as that of another screen, where the window was before
+  window.Refresh();
+  EXPECT_EQ(timer->intervalAsDuration(), pace);
+}
+
+TEST(ScreenPaceTest, IsNeverFasterThanTheScreen) {
+  EXPECT_EQ(ScreenPace::Interval(50), 20ms);
+  EXPECT_EQ(ScreenPace::Interval(60), 17ms);
+  EXPECT_EQ(ScreenPace::Interval(59.94), 17ms);
+  EXPECT_EQ(ScreenPace::Interval(144), 7ms);
+  EXPECT_EQ(ScreenPace::Interval(500), 2ms);
+}
+
+TEST(ScreenPaceTest, IsTheUsualOneWhereThePlatformSaysNothingCredible) {
+  for (const double nonsense : {0.0, -60.0, 1.0, 1e9, std::nan("")})
+    EXPECT_EQ(ScreenPace::Interval(nonsense), ScreenPace::Interval(60)) << nonsense;
 }
 
 TEST(WatchedMicroQTest, ItsWindowComesUpEachTimeTheDeviceIsOpened) {
