@@ -57,7 +57,7 @@ private:
   std::vector<Row> rows;
 };
 
-// Those rows that hold all words of the search field.
+// Those rows that hold all words of the search field: a number whole, a piece of a name.
 class BufferFilter : public QSortFilterProxyModel {
   Q_OBJECT
 

@@ -12,9 +12,10 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QTimer;
-class QTreeView;
 
 namespace Tessoro {
+
+class MicroQList;
 
 // Looks at the microQ at the pace of its screen while it is visible and something happens, and at
 // no other time; the inbox takes what comes meanwhile, and rings.
@@ -52,7 +53,6 @@ protected:
 private:
   QWidget *MakeMessagePane();
   QWidget *MakeBufferPane();
-  QTreeView *MakeList(QAbstractItemModel &model, const QString &accessibleName);
   QPushButton *MakeButton(const QString &text, const QString &toolTip, QLayout &row);
   void StartLooking();
   void LookOnOrRest();
@@ -68,7 +68,7 @@ private:
   std::uint64_t seenTotal = 0;
   QString status;
 
-  QTreeView *messageList = nullptr;
+  MicroQList *messageList = nullptr;
   QPushButton *pauseButton = nullptr;
   QLabel *statusLine = nullptr;
   QTimer *refreshTimer = nullptr;

@@ -1,9 +1,8 @@
 // Far more messages than anybody can read, as fast as they can be sent.
-#include "face/microq/MicroQWindow.hpp"
+#include "tests/microq/MessageList.hpp"
 
 #include <QStyledItemDelegate>
 #include <QTest>
-#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -72,13 +71,6 @@ protected:
     }
   }
 
-  QTreeView *MessageList() {
-    for (QTreeView *list : window.findChildren<QTreeView *>())
-      if (list->model() == &window.Messages())
-        return list;
-    return nullptr;
-  }
-
   BuiltinMicroQ microQ;
   MessageInbox inbox{MessageModel::MostLines};
   MicroQWindow window{microQ, inbox, QStringLiteral("microQ")};
@@ -88,18 +80,16 @@ protected:
 };
 
 TEST_F(FloodTest, HoweverMuchHasPiledUpOneLookTakesItInOneGoAndMeasuresNoLine) {
-  QTreeView *list = MessageList();
-  ASSERT_NE(list, nullptr);
+  QTreeView &list = MessageListOf(window);
   CountingDelegate delegate;
-  list->setItemDelegate(&delegate);
+  list.setItemDelegate(&delegate);
   Send(Flood);
   window.Refresh();
   QCoreApplication::processEvents();
   EXPECT_EQ(insertions, 1);
   EXPECT_EQ(mostInserted, MostLines);
-  const int lineHeight = list->visualRect(list->model()->index(MostLines - 1, 0)).height();
-  const int cellsInSight =
-      (list->viewport()->height() / lineHeight + 2) * MessageModel::ColumnCount;
+  const int lineHeight = list.visualRect(list.model()->index(MostLines - 1, 0)).height();
+  const int cellsInSight = (list.viewport()->height() / lineHeight + 2) * MessageModel::ColumnCount;
   EXPECT_GT(delegate.painted, 0);
   EXPECT_LE(delegate.painted, 2 * cellsInSight);
   EXPECT_LE(delegate.measured, 2 * cellsInSight);
@@ -112,10 +102,9 @@ TEST_F(FloodTest, ClicksAreAnsweredWhileMessagesPourIn) {
   constexpr int enoughClicks = 100;
   constexpr int enoughLooks = 20;
   constexpr int sentInVain = 500'000'000;
-  QTreeView *list = MessageList();
-  ASSERT_NE(list, nullptr);
+  QTreeView &list = MessageListOf(window);
   int answers = 0;
-  QObject::connect(list, &QTreeView::pressed, &window, [&answers] { ++answers; });
+  QObject::connect(&list, &QTreeView::pressed, &window, [&answers] { ++answers; });
   Send(Flood);
   window.Refresh();
   std::atomic<bool> isEnough = false;
@@ -126,7 +115,7 @@ TEST_F(FloodTest, ClicksAreAnsweredWhileMessagesPourIn) {
   int clicks = 0;
   while (clicks < enoughClicks || insertions < enoughLooks) {
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
-                      list->viewport()->mapTo(&window, list->viewport()->rect().center()));
+                      list.viewport()->mapTo(&window, list.viewport()->rect().center()));
     ++clicks;
     const int insertionsBefore = insertions;
     window.Refresh();

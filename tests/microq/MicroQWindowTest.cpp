@@ -2,14 +2,17 @@
 #include "face/microq/ScreenPace.hpp"
 #include "face/microq/WatchedMicroQ.hpp"
 #include "service/builtin/BuiltinSource.hpp"
+#include "tests/microq/MessageList.hpp"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +92,28 @@ TEST_F(MicroQWindowTest, CopyPutsTheLinesOnTheClipboard) {
   EXPECT_TRUE(
       lines[0].endsWith(QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7  Filter 1 cutoff = 64")));
   EXPECT_TRUE(lines[1].endsWith(QStringLiteral("Note C3 on, velocity 100")));
+}
+
+TEST_F(MicroQWindowTest, OnlyATextThatIsCutIsToldAgainWhereThePointerRests) {
+  window.show();
+  microQ.Receive(Bytes{0xF0, 0x3E, 0x10, 0, 0x20, 0, 2, 0x6D, 0x7C, 0xF7});
+  Bytes longOne(30, 0x2A);
+  longOne.front() = 0xF0;
+  longOne.back() = 0xF7;
+  microQ.Receive(longOne);
+  window.Refresh();
+  const QTreeView &list = MessageListOf(window);
+  const auto toldAt = [&](int row) {
+    const QPoint place = list.visualRect(list.model()->index(row, MessageModel::Bytes)).center();
+    QHelpEvent rest(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list.viewport(), &rest);
+    return QToolTip::text().toStdString();
+  };
+  EXPECT_EQ(toldAt(0), "") << "a parameter change fits";
+  std::string whole = "F0";
+  for (int i = 0; i < 28; ++i)
+    whole += " 2A";
+  EXPECT_EQ(toldAt(1), whole + " F7");
 }
 
 TEST_F(MicroQWindowTest, LooksWhileSomethingHappensAndThenRests) {
