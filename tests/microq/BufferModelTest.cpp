@@ -109,6 +109,9 @@ TEST(BufferFilterTest, FindsAllWordsInAnyOrderAndNumbers) {
   filter.Search(QStringLiteral("364"));
   ASSERT_EQ(filter.rowCount(), 1);
   EXPECT_EQ(RowTexts(filter, 0)[1], QStringLiteral("Sound name character 1"));
+  filter.Search(QStringLiteral("filter 1"));
+  for (int row = 0; row < filter.rowCount(); ++row)
+    EXPECT_TRUE(RowTexts(filter, row)[1].contains(QLatin1Char('1'))) << "not a piece of a number";
   filter.Search(QStringLiteral("68"));
   EXPECT_EQ(RowTexts(filter, 0)[0], QStringLiteral("68"));
   filter.Search(QStringLiteral("cc 68"));
