@@ -84,7 +84,7 @@ std::string ControllerText(const MicroQMessage &message) {
     return "Unknown controller " + std::to_string(message.number) + " = " +
            std::to_string(message.value);
   }
-  const std::string named = controller + ": " + name;
+  std::string named = controller + ": " + name;
   if (message.number >= FirstModeController && message.value == 0) {
     return named; // the value says nothing
   }

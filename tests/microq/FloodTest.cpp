@@ -136,7 +136,7 @@ std::size_t BytesInUse() {
 }
 
 TEST_F(FloodTest, OnceTheListIsFullMoreMessagesTakeNoMoreMemory) {
-  constexpr std::size_t slack = 64 * 1024;
+  constexpr std::size_t slack = 65'536;
   Bytes dump(1000, 0x01);
   dump.front() = 0xF0;
   dump.back() = 0xF7;
