@@ -2,6 +2,7 @@
 #include "bench/Benches.hpp"
 #include "bench/KeystrokeTimes.hpp"
 #include "bench/Medians.hpp"
+#include "bench/MicroQInitTimes.hpp"
 #include "bench/Table.hpp"
 #include "bench/WindowStart.hpp"
 #include "tests/endtoend/JackServer.hpp"
@@ -41,6 +42,7 @@ void Measure(const Effort &effort) {
   using namespace Tessoro;
   const WindowStarts starts = MeasureWindowStarts(effort.windowStarts);
   const KeystrokeTimes keystrokes = MeasureKeystrokes();
+  const MicroQInitTimes inits = MeasureMicroQInits();
 
   const Tests::JackServer jack;
   Benches::RegisterChange();
@@ -85,6 +87,10 @@ void Measure(const Effort &effort) {
        "null service + bare sends",
        medians.Time(Benches::InitAfterRest) * MicrosecondsInSecond +
            bare * Benches::MessagesInRow / NanosecondsInMicrosecond},
+      {"a whole init, microQ with its window", inits.withWindow, "us", 3, "a null service",
+       inits.atNullService},
+      {"  the same", inits.withWindow, "us", 1.5, "without the window", inits.withoutWindow},
+      {"  the window's look that shows it", inits.look, "ms", 16},
       {"one keystroke in the window (99th perc.)", keystrokes.editor, "us", 2,
        "a field of the library", keystrokes.bareField},
       {"load of a sound file", medians.Time(Benches::LoadOfSound) * MicrosecondsInSecond, "us", 20,

@@ -21,4 +21,7 @@ void F_About::Form_Load() {
 
 void F_About::Form_KeyDown(int /*keyCode*/, int /*shift*/) { Unload(); }
 
+// Of a key that has a character and no code.
+void F_About::Form_KeyPress(int /*keyAscii*/) { Unload(); }
+
 } // namespace Tessoro

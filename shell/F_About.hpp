@@ -26,6 +26,7 @@ public:
 protected:
   void Form_Load() override;
   void Form_KeyDown(int keyCode, int shift) override;
+  void Form_KeyPress(int keyAscii) override;
 };
 
 } // namespace Tessoro

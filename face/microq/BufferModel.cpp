@@ -15,6 +15,12 @@ constexpr int Gap = 256; // no parameter has this number
 // Filter 1's type has a controller and no number; on the panel it stands before the cutoff.
 constexpr int CutoffOfFilter1 = 78;
 
+QVariant AlignmentOf(int column) {
+  const bool holdsNumbers = column == BufferModel::Number || column == BufferModel::Value;
+  return QVariant::fromValue<Qt::Alignment>((holdsNumbers ? Qt::AlignRight : Qt::AlignLeft) |
+                                            Qt::AlignVCenter);
+}
+
 } // namespace
 
 BufferModel::BufferModel(QObject *parent) : QAbstractTableModel(parent) {
@@ -72,6 +78,10 @@ bool BufferModel::IsMarked(int row) const {
   return rows.at(static_cast<std::size_t>(row)).isMarked;
 }
 
+bool BufferModel::HasMarks() const {
+  return std::any_of(rows.begin(), rows.end(), [](const Row &row) { return row.isMarked; });
+}
+
 bool BufferModel::IsWorthShowing(int row) const {
   const Row &asked = rows.at(static_cast<std::size_t>(row));
   return asked.isKnown || asked.value >= 0;
@@ -98,8 +108,10 @@ QString BufferModel::ShownText(const Row &row) const {
 
 QVariant BufferModel::data(const QModelIndex &index, int role) const {
   const Row &row = rows.at(static_cast<std::size_t>(index.row()));
-  if (role == Qt::TextAlignmentRole && (index.column() == Number || index.column() == Value))
-    return QVariant::fromValue<Qt::Alignment>(Qt::AlignRight | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole)
+    return AlignmentOf(index.column());
+  if (role == Qt::ForegroundRole && !row.isKnown)
+    return MicroQLook::Unknown();
   if (role == Qt::BackgroundRole && row.isMarked)
     return MicroQLook::Mark();
   if (role != Qt::DisplayRole)
@@ -118,6 +130,8 @@ QVariant BufferModel::data(const QModelIndex &index, int role) const {
 }
 
 QVariant BufferModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+    return AlignmentOf(section);
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
     return {};
   switch (section) {
@@ -145,10 +159,11 @@ void BufferFilter::Search(const QString &text) {
 bool BufferFilter::filterAcceptsRow(int row, const QModelIndex & /*parent*/) const {
   if (!buffer.IsWorthShowing(row))
     return false;
-  const QString number = buffer.index(row, BufferModel::Number).data().toString();
+  const QStringList numbers =
+      buffer.index(row, BufferModel::Number).data().toString().split(QLatin1Char(' '));
   const QString name = buffer.index(row, BufferModel::Name).data().toString();
   return std::all_of(words.begin(), words.end(), [&](const QString &word) {
-    return name.contains(word, Qt::CaseInsensitive) || number.contains(word, Qt::CaseInsensitive);
+    return name.contains(word, Qt::CaseInsensitive) || numbers.contains(word, Qt::CaseInsensitive);
   });
 }
 

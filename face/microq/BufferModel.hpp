@@ -30,6 +30,7 @@ public:
   void Fade(Time now);
 
   bool IsMarked(int row) const;
+  bool HasMarks() const;
   // Whether the editor knows the parameter, or somebody has set it all the same.
   bool IsWorthShowing(int row) const;
 
@@ -56,7 +57,7 @@ private:
   std::vector<Row> rows;
 };
 
-// Those rows that hold all words of the search field.
+// Those rows that hold all words of the search field: a number whole, a piece of a name.
 class BufferFilter : public QSortFilterProxyModel {
   Q_OBJECT
 

@@ -43,8 +43,12 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
   const LoggedMessage &message = At(index.row());
   if (role == Qt::TextAlignmentRole && index.column() == Time)
     return QVariant::fromValue<Qt::Alignment>(Qt::AlignRight | Qt::AlignVCenter);
+  if (role == Qt::FontRole && index.column() == Bytes)
+    return MicroQLook::BytesFont();
   if (role == Qt::ForegroundRole && message.meaning.kind == MicroQMessageKind::Malformed)
     return MicroQLook::Fault();
+  if (role == Qt::ForegroundRole && IsUnknown(message))
+    return MicroQLook::Unknown();
   if (role != Qt::DisplayRole)
     return {};
   switch (index.column()) {
@@ -58,6 +62,8 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
 }
 
 QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && section == Time)
+    return QVariant::fromValue<Qt::Alignment>(Qt::AlignRight | Qt::AlignVCenter);
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
     return {};
   switch (section) {

@@ -1,41 +1,31 @@
 #include "face/microq/MicroQWindow.hpp"
 
+#include "face/microq/MicroQList.hpp"
+#include "face/microq/MicroQLook.hpp"
+#include "face/microq/ScreenPace.hpp"
 #include "face/qt/Look.hpp"
 #include "service/builtin/MessageText.hpp"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace Tessoro {
 
 namespace {
 
-constexpr std::chrono::milliseconds RefreshInterval{33};
 constexpr int Margin = 10;
 constexpr int Gap = 6;
-
-// The bars of the editor are as large as their forms say; those of a list have to say it
-// themselves.
-class ListBar : public QScrollBar {
-public:
-  using QScrollBar::QScrollBar;
-  QSize sizeHint() const override { return {Thickness, Thickness}; }
-
-private:
-  static constexpr int Thickness = 14;
-};
 
 QLabel *MakeHeading(const QString &text) {
   auto *heading = new QLabel(text);
@@ -71,12 +61,17 @@ MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInb
   column->addWidget(statusLine);
 
   refreshTimer = new QTimer(this);
-  refreshTimer->setInterval(RefreshInterval);
+  refreshTimer->setTimerType(Qt::PreciseTimer);
   connect(refreshTimer, &QTimer::timeout, this, &MicroQWindow::Refresh);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
           &MicroQWindow::Copy);
+  inbox.SetBell([this] {
+    QMetaObject::invokeMethod(this, &MicroQWindow::StartLooking, Qt::QueuedConnection);
+  });
   resize(1080, 560);
 }
+
+MicroQWindow::~MicroQWindow() { inbox.SetBell({}); }
 
 QWidget *MicroQWindow::MakeMessagePane() {
   auto *pane = new QWidget;
@@ -94,12 +89,11 @@ QWidget *MicroQWindow::MakeMessagePane() {
           &QPushButton::clicked, this, &MicroQWindow::Copy);
   column->addLayout(row);
 
-  messageList = MakeList(messages, tr("Messages"));
+  messageList = new MicroQList(messages, tr("Messages"));
   messageList->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  QHeaderView *header = messageList->header();
-  header->resizeSection(MessageModel::Time, WidthOf(*messageList, QStringLiteral("00000.000")));
-  header->resizeSection(MessageModel::Bytes,
-                        WidthOf(*messageList, QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7")));
+  messageList->MakeColumnFit(MessageModel::Time, QStringLiteral("00000.000"));
+  messageList->MakeColumnFit(MessageModel::Bytes, QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7"),
+                             MicroQLook::BytesFont());
   column->addWidget(messageList, 1);
   return pane;
 }
@@ -122,33 +116,12 @@ QWidget *MicroQWindow::MakeBufferPane() {
   row->addWidget(search);
   column->addLayout(row);
 
-  QTreeView *list = MakeList(filter, tr("Edit buffer"));
-  QHeaderView *header = list->header();
-  header->resizeSection(BufferModel::Number, WidthOf(*list, QStringLiteral("CC 68")));
-  header->resizeSection(BufferModel::Value, WidthOf(*list, QStringLiteral("0000")));
-  header->resizeSection(BufferModel::Name,
-                        WidthOf(*list, QStringLiteral("Filter 1 cutoff modulation")));
+  auto *list = new MicroQList(filter, tr("Edit buffer"));
+  list->MakeColumnFit(BufferModel::Number, QStringLiteral("CC 68"));
+  list->MakeColumnFit(BufferModel::Name, QStringLiteral("Filter 1 cutoff modulation amount"));
+  list->MakeColumnFit(BufferModel::Value, QStringLiteral("0000"));
   column->addWidget(list, 1);
   return pane;
-}
-
-QTreeView *MicroQWindow::MakeList(QAbstractItemModel &model, const QString &accessibleName) {
-  auto *list = new QTreeView;
-  list->setModel(&model);
-  list->setAccessibleName(accessibleName);
-  list->setPalette(Look::Field(Colors::Navy));
-  list->header()->setPalette(Look::Windows());
-  list->header()->setSectionsMovable(false);
-  list->setRootIsDecorated(false);
-  list->setUniformRowHeights(true); // else 10,000 rows would be measured one by one
-  list->setItemsExpandable(false);
-  list->setFrameShape(QFrame::NoFrame);
-  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  auto *bar = new ListBar;
-  bar->setPalette(Look::Windows());
-  list->setVerticalScrollBar(bar);
-  return list;
 }
 
 QPushButton *MicroQWindow::MakeButton(const QString &text, const QString &toolTip, QLayout &row) {
@@ -175,6 +148,23 @@ void MicroQWindow::Refresh() {
       TakeMessages();
     ShowCounts();
   }
+  LookOnOrRest();
+}
+
+bool MicroQWindow::IsLooking() const { return refreshTimer->isActive(); }
+
+// Asked each time, as the window may have gone to another screen, or its screen changed its pace.
+void MicroQWindow::StartLooking() {
+  const std::chrono::milliseconds pace = ScreenPace::Interval(screen()->refreshRate());
+  if (isVisible() && (!IsLooking() || refreshTimer->intervalAsDuration() != pace))
+    refreshTimer->start(pace);
+}
+
+void MicroQWindow::LookOnOrRest() {
+  if (!buffer.HasMarks() && inbox.RingAtNext(seenTotal))
+    refreshTimer->stop();
+  else
+    StartLooking();
 }
 
 void MicroQWindow::TakeMessages() {
@@ -221,9 +211,8 @@ void MicroQWindow::Copy() {
 }
 
 void MicroQWindow::showEvent(QShowEvent *event) {
-  Refresh();
-  refreshTimer->start();
   QWidget::showEvent(event);
+  Refresh();
 }
 
 void MicroQWindow::hideEvent(QHideEvent *event) {

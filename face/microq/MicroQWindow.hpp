@@ -12,24 +12,31 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QTimer;
-class QTreeView;
 
 namespace Tessoro {
 
-// Looks at the microQ a number of times a second while it is visible, and at no other time; the
-// inbox takes what comes meanwhile.
+class MicroQList;
+
+// Looks at the microQ at the pace of its screen while it is visible and something happens, and at
+// no other time; the inbox takes what comes meanwhile, and rings.
 class MicroQWindow : public QWidget {
   Q_OBJECT
 
 public:
   // Both outlive the window.
   MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &inbox, const QString &title);
+  ~MicroQWindow() override;
+  MicroQWindow(const MicroQWindow &) = delete;
+  MicroQWindow &operator=(const MicroQWindow &) = delete;
 
   // In words, at the bottom of the window: "Open", or where messages come from.
   void ShowStatus(const QString &text);
 
-  // Shows what has come. The window's own timer calls it.
+  // Shows what has come. The window's own timer calls it. However much that is, the work is no more
+  // than that of all lines of the list.
   void Refresh();
+  // Whether it is looking, at its own pace; else it waits to be rung.
+  bool IsLooking() const;
 
   void Pause(bool pauses);
   void Clear();
@@ -46,8 +53,9 @@ protected:
 private:
   QWidget *MakeMessagePane();
   QWidget *MakeBufferPane();
-  QTreeView *MakeList(QAbstractItemModel &model, const QString &accessibleName);
   QPushButton *MakeButton(const QString &text, const QString &toolTip, QLayout &row);
+  void StartLooking();
+  void LookOnOrRest();
   void TakeMessages();
   void ShowCounts();
 
@@ -60,7 +68,7 @@ private:
   std::uint64_t seenTotal = 0;
   QString status;
 
-  QTreeView *messageList = nullptr;
+  MicroQList *messageList = nullptr;
   QPushButton *pauseButton = nullptr;
   QLabel *statusLine = nullptr;
   QTimer *refreshTimer = nullptr;

@@ -4,6 +4,13 @@
 
 namespace Tessoro {
 
+namespace {
+
+// In pixels. Below it, the columns of its lists would be cut too much.
+constexpr QSize LeastSize(900, 380);
+
+} // namespace
+
 WatchedMicroQ::WatchedMicroQ() {
   microQ.AddListener(inbox);
   microQ.AddListener(*this);
@@ -32,7 +39,7 @@ void WatchedMicroQ::BringUp() {
     window = std::make_unique<MicroQWindow>(microQ, inbox, tr("microQ (built-in)"));
   window->ShowStatus(tr("The port is open"));
   if (!window->isVisible())
-    Desk::StandBesideOthers(*window);
+    Desk::StandBesideOthers(*window, LeastSize);
   window->show();
 }
 

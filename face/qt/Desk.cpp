@@ -89,7 +89,25 @@ QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QR
   return best;
 }
 
-void StandBesideOthers(QWidget &window) {
+QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QSize &least,
+                 const QRect &room) {
+  if (others.empty())
+    return wished;
+  const QRect &first = others.front();
+  const int widest = std::max(room.right() - first.right(), first.left() - room.left()) - Gap;
+  const int highest = std::max(room.bottom() - first.bottom(), first.top() - room.top()) - Gap;
+  for (const QSize &size : {wished, QSize(std::min(wished.width(), widest), wished.height()),
+                            QSize(wished.width(), std::min(wished.height(), highest))}) {
+    const bool isEnough = size.width() >= least.width() && size.height() >= least.height();
+    if (isEnough && CoveredOf(others, QRect(PlaceBeside(others, size, room), size)) == 0)
+      return size;
+  }
+  return wished;
+}
+
+void StandBesideOthers(QWidget &window) { StandBesideOthers(window, window.size()); }
+
+void StandBesideOthers(QWidget &window, const QSize &least) {
   const std::vector<QWidget *> others = WindowsBut(window);
   std::vector<QRect> frames;
   frames.reserve(others.size());
@@ -99,7 +117,10 @@ void StandBesideOthers(QWidget &window) {
                           ? QRect().marginsAdded(UsualFrame).size()
                           : others.front()->frameGeometry().size() - others.front()->size();
   const QWidget &neighbour = others.empty() ? window : *others.front();
-  window.move(PlaceBeside(frames, window.size() + frame, neighbour.screen()->availableGeometry()));
+  const QRect room = neighbour.screen()->availableGeometry();
+  const QSize size = SizeBeside(frames, window.size() + frame, least + frame, room);
+  window.resize(size - frame);
+  window.move(PlaceBeside(frames, size, room));
 }
 
 } // namespace Tessoro::Desk

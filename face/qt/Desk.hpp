@@ -29,8 +29,14 @@ double NextZoom(double zoom, int direction);
 // The top left corner of a window beside the others, or where it covers least of them. The first of
 // the others comes first. Without others it stands at the right, for those that are yet to come.
 QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QRect &room);
+// The wished size, or where a window of it would cover others, as much less in one direction as
+// lets it stand beside the first of them; the wished one again where that is less than the least.
+QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QSize &least,
+                 const QRect &room);
 // Moves a window that is still to come out of the way of all that the program shows. The one that
 // is worked in is the first to keep off.
 void StandBesideOthers(QWidget &window);
+// One that may be made smaller for that.
+void StandBesideOthers(QWidget &window, const QSize &least);
 
 } // namespace Tessoro::Desk

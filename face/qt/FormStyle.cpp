@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -21,6 +22,9 @@ bool Has(const QStyleOption &option, QStyle::StateFlag state) {
 }
 
 constexpr double LineHeightAtOne = 13;
+
+// Pixels on both sides of a text in a list of several columns.
+constexpr int MarginInColumns = 4;
 
 // How much larger than at a zoom of 1 a widget is, by its letters.
 double ZoomOf(const QStyleOption &option) { return option.fontMetrics.height() / LineHeightAtOne; }
@@ -212,6 +216,8 @@ int FormStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                            const QWidget *widget) const {
   if (metric == PM_DefaultFrameWidth && IsListOnForm(widget))
     return qRound(Look::CornerRadius * widget->fontMetrics().height() / LineHeightAtOne);
+  if (metric == PM_FocusFrameHMargin && qobject_cast<const QTreeView *>(widget) != nullptr)
+    return MarginInColumns;
   const auto *bar = dynamic_cast<const ScrollBarView *>(widget); // others ask to learn their size
   if (bar == nullptr)
     return QProxyStyle::pixelMetric(metric, option, widget);

@@ -15,4 +15,7 @@ std::unique_ptr<MidiService> MakeMidiService();
 // The same on every machine: the built-in devices alone, without a window.
 std::unique_ptr<MidiService> MakeBuiltinMidiService();
 
+// The built-in devices alone, and the window that the microQ has in `MakeMidiService`.
+std::unique_ptr<MidiService> MakeBuiltinMidiServiceWithWindow();
+
 } // namespace Tessoro

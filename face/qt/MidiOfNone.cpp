@@ -83,4 +83,8 @@ std::unique_ptr<MidiService> MakeMidiService() { return std::make_unique<NoMidi>
 
 std::unique_ptr<MidiService> MakeBuiltinMidiService() { return std::make_unique<NoMidi>(); }
 
+std::unique_ptr<MidiService> MakeBuiltinMidiServiceWithWindow() {
+  return std::make_unique<NoMidi>();
+}
+
 } // namespace Tessoro

@@ -1,4 +1,5 @@
-// Draws every form of the editor into picture files, without a display.
+// Draws every form of the editor and the window of the built-in microQ into picture files, without
+// a display.
 #include "face/qt/FormWindow.hpp"
 #include "face/qt/MidiOfBuild.hpp"
 #include "face/qt/Program.hpp"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -28,6 +30,8 @@ constexpr std::array<PictureScale, 3> Scales{{{1, "1"}, {1.5, "1.5"}, {2, "2"}}}
 
 // Long enough for the hint that comes up at start.
 constexpr int SettlingMilliseconds = 700;
+// And for the marks of an init to go from the window of the microQ.
+constexpr int FadingMilliseconds = 1700;
 
 void LetTimePass(int milliseconds) {
   QEventLoop loop;
@@ -44,7 +48,7 @@ void AnswerBox() {
   box->defaultButton()->click();
 }
 
-bool SavePicture(FormWindow &window, const QString &name, const QDir &folder,
+bool SavePicture(QWidget &window, const QString &name, const QDir &folder,
                  const PictureScale &scale) {
   QPixmap picture((QSizeF(window.size()) * scale.factor).toSize());
   picture.setDevicePixelRatio(scale.factor);
@@ -57,16 +61,20 @@ bool SavePicture(FormWindow &window, const QString &name, const QDir &folder,
   return false;
 }
 
+bool SaveAtAllScales(QWidget &window, const QString &name, const QDir &folder) {
+  bool isSaved = true;
+  for (const PictureScale &scale : Scales)
+    isSaved = SavePicture(window, name, folder, scale) && isSaved;
+  return isSaved;
+}
+
 bool Save(FormWindow *window, const QString &name, const QDir &folder) {
   if (window == nullptr) {
     std::fprintf(stderr, "tessoro-pictures: %s doesn't come up\n", qPrintable(name));
     return false;
   }
   window->SetZoom(1); // whatever fits the screen that isn't there
-  bool isSaved = true;
-  for (const PictureScale &scale : Scales)
-    isSaved = SavePicture(*window, name, folder, scale) && isSaved;
-  return isSaved;
+  return SaveAtAllScales(*window, name, folder);
 }
 
 // Some forms need a sound to load. It goes to the built-in microQ.
@@ -76,12 +84,40 @@ void InitSound(Application &editor) {
   editor.F_Tessoro.InitPanelParams();
 }
 
+// The only window that is no form. A build without MIDI has none.
+QWidget *WindowOfMicroQ() {
+  for (QWidget *window : QApplication::topLevelWidgets())
+    if (window->isVisible() && window->windowTitle().startsWith(QLatin1String("microQ")))
+      return window;
+  return nullptr;
+}
+
+// As somebody who has just tried filter 1 finds it.
+bool DrawMicroQ(Application &editor, const QDir &folder) {
+  QWidget *window = WindowOfMicroQ();
+  if (window == nullptr)
+    return true;
+  LetTimePass(FadingMilliseconds);
+  F_Tessoro &form = editor.F_Tessoro;
+  form.NoteC3.UserMouseDown({});
+  form.NoteC3.UserMouseUp({});
+  form.ComboFilter1.UserSelect(2);
+  form.TextF1_cutoff.UserEdit("6");
+  form.TextF1_cutoff.UserEdit("64");
+  form.TextF1_reso.UserEdit("90");
+  form.CheckOSC3mute.UserClick();
+  if (auto *search = window->findChild<QLineEdit *>())
+    search->setText(QStringLiteral("filter 1"));
+  LetTimePass(100);
+  return SaveAtAllScales(*window, QStringLiteral("microQ"), folder);
+}
+
 int DrawForms(const QDir &folder) {
   QTimer answers;
   QObject::connect(&answers, &QTimer::timeout, &AnswerBox);
   answers.start(20);
   const QTemporaryDir settings; // none in it, so the form for the ports comes up by itself
-  const auto midi = MakeBuiltinMidiService();
+  const auto midi = MakeBuiltinMidiServiceWithWindow();
   Program program(*midi, ToModel(settings.path()));
   program.Editor().Start();
   LetTimePass(SettlingMilliseconds);
@@ -99,6 +135,7 @@ int DrawForms(const QDir &folder) {
     LetTimePass(0);
     isSaved = draw(*form, form == &mainForm ? QStringLiteral("-init") : QString()) && isSaved;
   }
+  isSaved = DrawMicroQ(editor, folder) && isSaved;
   return isSaved ? 0 : 1;
 }
 

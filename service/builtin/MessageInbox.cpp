@@ -23,6 +23,9 @@ void MessageInbox::MessageArrived(const ReceivedMessage &message) {
     messages.pop_front();
     ++skipped;
   }
+  if (std::exchange(ringsAtNext, false)) {
+    bell();
+  }
 }
 
 MessageInbox::News MessageInbox::Take() {
@@ -40,6 +43,18 @@ MessageInbox::News MessageInbox::Take() {
 std::uint64_t MessageInbox::Total() const {
   const std::lock_guard lock(mutex);
   return total;
+}
+
+void MessageInbox::SetBell(std::function<void()> ring) {
+  const std::lock_guard lock(mutex);
+  bell = std::move(ring);
+  ringsAtNext = false;
+}
+
+bool MessageInbox::RingAtNext(std::uint64_t seenTotal) {
+  const std::lock_guard lock(mutex);
+  ringsAtNext = total == seenTotal && bell != nullptr;
+  return ringsAtNext;
 }
 
 } // namespace Tessoro

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <span>
 #include <vector>
@@ -44,6 +45,13 @@ public:
   // How many messages ever came.
   std::uint64_t Total() const;
 
+  // Who is to be told of messages, on the thread on which they come, and quickly. Nobody hears of
+  // what comes after this returns but the new one.
+  void SetBell(std::function<void()> ring);
+  // The bell rings once, with the next message. False, and it won't ring, if more than those that
+  // the caller has seen are here already.
+  bool RingAtNext(std::uint64_t seenTotal);
+
 private:
   const std::size_t limit;
   const std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
@@ -51,6 +59,8 @@ private:
   std::deque<LoggedMessage> messages;
   std::uint64_t skipped = 0;
   std::uint64_t total = 0;
+  std::function<void()> bell;
+  bool ringsAtNext = false;
 };
 
 } // namespace Tessoro

@@ -66,8 +66,11 @@ std::string ValueText(Display display, int wire) {
 
 std::string ParameterText(const MicroQMessage &message) {
   const ParameterRow *row = FindParameter(message.number);
-  return ParameterName(message.number) + " = " +
-         ValueText(row == nullptr ? Display::Wire : row->display, message.value);
+  if (row == nullptr) {
+    return "Unknown parameter " + std::to_string(message.number) + " = " +
+           std::to_string(message.value);
+  }
+  return std::string(row->name) + " = " + ValueText(row->display, message.value);
 }
 
 std::string ControllerText(const MicroQMessage &message) {
@@ -77,8 +80,12 @@ std::string ControllerText(const MicroQMessage &message) {
            ValueText(row->display, message.value);
   }
   const std::string name = NameIn(CommonControllers, message.number);
-  std::string named = name.empty() ? controller : controller + ": " + name;
-  if (message.number >= FirstModeController && message.value == 0 && !name.empty()) {
+  if (name.empty()) {
+    return "Unknown controller " + std::to_string(message.number) + " = " +
+           std::to_string(message.value);
+  }
+  std::string named = controller + ": " + name;
+  if (message.number >= FirstModeController && message.value == 0) {
     return named; // the value says nothing
   }
   return named + " = " + std::to_string(message.value);
@@ -101,6 +108,27 @@ std::string PitchBendText(int value) {
   constexpr int middle = 8192;
   const int bend = value - middle;
   return "Pitch bend = " + std::string(bend > 0 ? "+" : "") + std::to_string(bend);
+}
+
+// Whose it is stands in its first bytes: maker, synthesizer, and which of several such.
+std::string SysExText(const LoggedMessage &message) {
+  constexpr std::uint8_t waldorf = 0x3E;
+  constexpr std::uint8_t microQ = 0x10;
+  const MidiBytes bytes = message.KeptBytes();
+  const std::string length = ", " + std::to_string(message.length) + " bytes";
+  const auto isAt = [&bytes](std::size_t place, std::uint8_t byte) {
+    return bytes.size() > place + 1 && bytes[place] == byte;
+  };
+  if (!isAt(1, waldorf)) {
+    return "SysEx of another maker" + length;
+  }
+  if (!isAt(2, microQ)) {
+    return "SysEx for another synthesizer" + length;
+  }
+  if (!isAt(3, 0)) {
+    return "SysEx for another device number" + length;
+  }
+  return "Unknown SysEx message" + length;
 }
 
 std::string SystemText(const LoggedMessage &message) {
@@ -129,6 +157,22 @@ std::string ParameterName(int number) {
   return row == nullptr ? "Parameter " + std::to_string(number) : std::string(row->name);
 }
 
+bool IsUnknown(const LoggedMessage &message) {
+  const MicroQMessage &meaning = message.meaning;
+  switch (meaning.kind) {
+  case Kind::SoundParameter:
+    return FindParameter(meaning.number) == nullptr;
+  case Kind::Controller:
+    return FindController(meaning.number) == nullptr &&
+           NameIn(CommonControllers, meaning.number).empty();
+  case Kind::SystemCommon:
+  case Kind::RealTime:
+    return NameIn(SystemMessages, message.firstBytes.front()).empty();
+  default:
+    return meaning.kind == Kind::OtherSysEx;
+  }
+}
+
 std::string MeaningText(const LoggedMessage &message) {
   const MicroQMessage &meaning = message.meaning;
   switch (meaning.kind) {
@@ -147,7 +191,7 @@ std::string MeaningText(const LoggedMessage &message) {
   case Kind::PitchBend:
     return OfChannel(PitchBendText(meaning.value), meaning.channel);
   case Kind::OtherSysEx:
-    return "Unknown System Exclusive message, " + std::to_string(message.length) + " bytes";
+    return SysExText(message);
   case Kind::SystemCommon:
   case Kind::RealTime:
     return SystemText(message);

@@ -19,6 +19,9 @@ std::string ParameterName(int number);
 // than the first are named.
 std::string MeaningText(const LoggedMessage &message);
 
+// Whether it is whole, but says nothing to a microQ that the editor knows of. Its text says so too.
+bool IsUnknown(const LoggedMessage &message);
+
 // "F0 3E 10"; of a long message the beginning and the length.
 std::string BytesText(const LoggedMessage &message);
 

@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace Tessoro::Tests {
 namespace {
 
@@ -38,9 +40,23 @@ TEST(MonitorTest, SaysInOneLineThatNobodyAnswers) {
             "tessoro-monitor: there is no JACK server here that would grant a MIDI port\n");
 }
 
+// The library of ALSA finds no sequencer without its settings.
+TEST(MonitorTest, SaysInOneLineThatThereIsNeitherAlsaNorJack) {
+  for (const char *form : {"", "--text"}) {
+    RunningMonitor monitor(form,
+                           {NoServer, "ALSA_CONFIG_PATH=/dev/null", "QT_QPA_PLATFORM=offscreen"});
+    EXPECT_EQ(monitor.ExitStatus(), 1);
+    EXPECT_EQ(monitor.Output(), "");
+    EXPECT_EQ(monitor.Errors(), "tessoro-monitor: there is neither the ALSA sequencer nor a JACK "
+                                "server here that would grant a MIDI port\n");
+  }
+}
+
 class MonitorJackTest : public testing::Test {
 protected:
-  MonitorJackTest() {
+  explicit MonitorJackTest(const std::string &arguments = "--text --jack",
+                           const std::vector<std::string> &environment = {})
+      : monitor(arguments, environment) {
     if (Eventually([&] { return FindMonitor(); }))
       service->midiOutOpen(out, number, 1, 0, 0);
   }
@@ -67,7 +83,7 @@ protected:
   }
 
   JackServer server;
-  RunningMonitor monitor{"--text --jack"};
+  RunningMonitor monitor;
   std::unique_ptr<MidiService> service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
   std::int32_t number = 0;
   MidiHandle out = 0;
@@ -85,10 +101,24 @@ TEST_F(MonitorJackTest, PrintsWhatAnotherProgramSends) {
                           "90 3C 64                       Note C3 on, velocity 100",
                           "B0 34 7F                       Controller 52: OSC 1 level = 127",
                           "90 3C 00                       Note C3 off"));
-  monitor.Interrupt();
+  monitor.Signal(SIGINT);
   EXPECT_EQ(monitor.ExitStatus(), 0);
   EXPECT_EQ(monitor.Errors(), "");
 }
+
+class MonitorWindowTest : public MonitorJackTest, public testing::WithParamInterface<int> {
+protected:
+  MonitorWindowTest() : MonitorJackTest("--jack", {"QT_QPA_PLATFORM=offscreen"}) {}
+};
+
+TEST_P(MonitorWindowTest, EndsCleanlyInTheMidstOfMessages) {
+  ASSERT_NE(out, 0U) << monitor.Errors();
+  SendCutoff(64);
+  monitor.Signal(GetParam());
+  EXPECT_EQ(monitor.ExitStatus(), 0) << monitor.Errors();
+}
+
+INSTANTIATE_TEST_SUITE_P(AtASignal, MonitorWindowTest, testing::Values(SIGINT, SIGTERM, SIGHUP));
 
 TEST_F(MonitorJackTest, PrintsAnInitWhole) {
   constexpr int messages = 310;

@@ -1,12 +1,11 @@
 #include "tests/endtoend/RunningMonitor.hpp"
 
+#include "tests/endtoend/MessageLines.hpp"
 #include "tests/endtoend/Waiting.hpp"
 
-#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 
 namespace Tessoro::Tests {
 namespace {
@@ -37,7 +36,7 @@ RunningMonitor::~RunningMonitor() {
   fs::remove_all(directory, ignored);
 }
 
-void RunningMonitor::Interrupt() { kill(std::stoi(Content(directory / "pid")), SIGINT); }
+void RunningMonitor::Signal(int signal) { kill(std::stoi(Content(directory / "pid")), signal); }
 
 std::optional<int> RunningMonitor::ExitStatus() { return program->ExitStatusWithin(10s); }
 
@@ -46,11 +45,7 @@ std::string RunningMonitor::Output() const { return Content(directory / "out"); 
 std::string RunningMonitor::Errors() const { return Content(directory / "err"); }
 
 std::vector<std::string> RunningMonitor::Messages() const {
-  constexpr std::size_t timeWidth = 11;
-  std::istringstream stream(Output());
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(stream, line);)
-    lines.push_back(line.substr(std::min(line.size(), timeWidth)));
+  std::vector<std::string> lines = LinesWithoutTimes(Output());
   if (!lines.empty())
     lines.erase(lines.begin());
   return lines;

@@ -21,13 +21,13 @@ public:
   RunningMonitor(const RunningMonitor &) = delete;
   RunningMonitor &operator=(const RunningMonitor &) = delete;
 
-  // As Ctrl+C does.
-  void Interrupt();
+  // SIGINT is what Ctrl+C sends.
+  void Signal(int signal);
   std::optional<int> ExitStatus();
   std::string Output() const;
   std::string Errors() const;
 
-  // Without the times, and without the first line, which says where it listens.
+  // Without the times, and without the first line, which says where it listens. As text only.
   std::vector<std::string> Messages() const;
 
 private:

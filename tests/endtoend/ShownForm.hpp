@@ -30,11 +30,13 @@ public:
   void Move(Point leftTop) const { display.Move(window, leftTop); }
   void WaitUntilGone() const { display.WaitUntilGone(title); }
 
+  Area WindowArea() const { return display.AreaOf(window); }
   // In the window.
   Area AreaOf(const Control &control) const;
   Spot SpotOn(const Control &control, Share place = {}) const;
   void PointAt(const Control &control, Share place = {}) const;
   void Press(const Control &control, Share place = {}) const;
+  void Release() const { display.ReleaseButton(); }
   void Click(const Control &control, Share place = {}) const;
   void DoubleClick(const Control &control, Share place = {}) const;
 

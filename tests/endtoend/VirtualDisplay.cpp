@@ -1,10 +1,8 @@
 #include "tests/endtoend/VirtualDisplay.hpp"
 
 #include "tests/endtoend/Waiting.hpp"
+#include "tests/endtoend/XConnection.hpp"
 
-#include <xcb/xcb.h>
-
-#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
@@ -29,24 +27,14 @@ std::string Entry(const std::string &list, const std::string &key) {
   return list.substr(value, list.find('\n', value) - value);
 }
 
-using Connection = std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)>;
-
-xcb_atom_t Atom(xcb_connection_t *connection, std::string_view name) {
-  const auto request =
-      xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-  const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-      xcb_intern_atom_reply(connection, request, nullptr), &std::free);
-  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
 } // namespace
 
-VirtualDisplay::VirtualDisplay() : numberFile(NewTestDirectory() / "number") {
+VirtualDisplay::VirtualDisplay(Extent size) : numberFile(NewTestDirectory() / "number") {
   // Without -noreset it begins anew, and turns others away meanwhile, whenever the last has gone.
-  const std::string size = std::to_string(Width) + "x" + std::to_string(Height) + "x24";
+  const std::string screen = std::to_string(size.width) + "x" + std::to_string(size.height) + "x24";
   server = std::make_unique<ChildProcess>(
       std::vector<std::string>{"sh", "-c",
-                               "exec Xvfb -noreset -displayfd 3 -screen 0 " + size +
+                               "exec Xvfb -noreset -displayfd 3 -screen 0 " + screen +
                                    " -nolisten tcp 3>" + numberFile.string()});
   WaitFor("an X server", [this] {
     std::ifstream file(numberFile);
@@ -107,18 +95,17 @@ void VirtualDisplay::Move(const std::string &window, Point leftTop) const {
 }
 
 void VirtualDisplay::Close(const std::string &window) const {
-  const Connection connection(xcb_connect(name.c_str(), nullptr), &xcb_disconnect);
+  const XConnection connection = ConnectToX(name);
   xcb_client_message_event_t message{};
   message.response_type = XCB_CLIENT_MESSAGE;
   message.format = 32;
   message.window = static_cast<xcb_window_t>(std::stoul(window));
-  message.type = Atom(connection.get(), "WM_PROTOCOLS");
-  message.data.data32[0] = Atom(connection.get(), "WM_DELETE_WINDOW");
+  message.type = XAtom(connection, "WM_PROTOCOLS");
+  message.data.data32[0] = XAtom(connection, "WM_DELETE_WINDOW");
   const auto request =
       xcb_send_event_checked(connection.get(), 0, message.window, XCB_EVENT_MASK_NO_EVENT,
                              reinterpret_cast<const char *>(&message));
-  const std::unique_ptr<xcb_generic_error_t, decltype(&std::free)> error(
-      xcb_request_check(connection.get(), request), &std::free);
+  const XAnswer<xcb_generic_error_t> error(xcb_request_check(connection.get(), request));
   if (error)
     throw std::runtime_error("no window to close: " + window);
 }
@@ -150,5 +137,7 @@ void VirtualDisplay::PressKeys(const std::string &keys) const { Do("key --delay 
 void VirtualDisplay::HoldKey(const std::string &key) const { Do("keydown " + key); }
 
 void VirtualDisplay::LetGoOfKey(const std::string &key) const { Do("keyup " + key); }
+
+std::string VirtualDisplay::Clipboard() const { return XClipboard(name); }
 
 } // namespace Tessoro::Tests

@@ -15,6 +15,12 @@ struct Point {
   int y = 0;
 };
 
+// In pixels.
+struct Extent {
+  int width = 0;
+  int height = 0;
+};
+
 struct Area {
   int left = 0;
   int top = 0;
@@ -33,11 +39,11 @@ struct Spot {
 // is waited for in vain throws.
 class VirtualDisplay {
 public:
-  // In pixels.
+  // In pixels, where nothing else is asked for.
   static constexpr int Width = 1280;
   static constexpr int Height = 1024;
 
-  VirtualDisplay();
+  explicit VirtualDisplay(Extent size = {Width, Height});
   ~VirtualDisplay();
   VirtualDisplay(const VirtualDisplay &) = delete;
   VirtualDisplay &operator=(const VirtualDisplay &) = delete;
@@ -73,6 +79,9 @@ public:
   void PressKeys(const std::string &keys) const;
   void HoldKey(const std::string &key) const;
   void LetGoOfKey(const std::string &key) const;
+
+  // What was copied last; nothing where no program offers it as a text.
+  std::string Clipboard() const;
 
 private:
   std::string Do(const std::string &command) const;

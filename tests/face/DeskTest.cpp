@@ -66,5 +66,35 @@ TEST(Desk, WhatComesBeforeTheMainWindowStandsAtTheRight) {
   EXPECT_TRUE(Screen.contains(form));
 }
 
+// As the window of the built-in microQ.
+const QSize Wished(1080, 560);
+const QSize Least(900, 380);
+
+TEST(Desk, WhatHasRoomBesideTheOthersKeepsItsSize) {
+  EXPECT_EQ(Desk::SizeBeside({}, Wished, Least, Screen), Wished);
+  EXPECT_EQ(Desk::SizeBeside({QRect(0, 0, 811, 593)}, Wished, Least, Screen), Wished);
+}
+
+TEST(Desk, WhatMayBeSmallerIsAsMuchSmallerAsItTakesToCoverNothing) {
+  struct Case {
+    QRect main;
+    QRect screen;
+  };
+  for (const Case &each :
+       {Case{{0, 0, 1622, 1186}, {0, 0, 2560, 1440}},
+        Case{{930, 0, 1622, 1186}, {0, 0, 2560, 1440}}, Case{{0, 0, 811, 593}, {0, 0, 1280, 1024}},
+        Case{{200, 420, 811, 593}, {0, 0, 1280, 1024}}}) {
+    const QSize size = Desk::SizeBeside({each.main}, Wished, Least, each.screen);
+    const QRect window(Desk::PlaceBeside({each.main}, size, each.screen), size);
+    EXPECT_FALSE(window.intersects(each.main)) << each.screen.width();
+    EXPECT_TRUE(each.screen.contains(window)) << each.screen.width();
+    EXPECT_TRUE(size.width() == Wished.width() || size.height() == Wished.height());
+  }
+}
+
+TEST(Desk, WhatWouldBeTooSmallKeepsItsSize) {
+  EXPECT_EQ(Desk::SizeBeside({QRect(0, 0, 811, 593)}, Wished, Least, {0, 0, 1100, 800}), Wished);
+}
+
 } // namespace
 } // namespace Tessoro::Tests

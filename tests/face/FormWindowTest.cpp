@@ -158,6 +158,23 @@ TEST_F(FormWindowTest, ShiftOnTheMainFormSetsTheFlagOfTheKnobs) {
   }
 }
 
+TEST_F(FormWindowTest, ShiftThatIsLetGoWhileABoxIsUpStaysHeldUntilItComesUpAgain) {
+  Activate(app.F_Tessoro);
+  Focus(app.F_Tessoro.TextF1_cutoff);
+  QWidget &box = WidgetOf(app.F_Tessoro.TextF1_cutoff);
+  QTest::keyPress(&box, Qt::Key_Shift);
+  EXPECT_EQ(app.Module1.ShiftHeld, -1);
+  WithNextBox([&box](QMessageBox &message) {
+    QTest::keyRelease(&box, Qt::Key_Shift, Qt::ShiftModifier);
+    message.accept();
+  });
+  app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
+  LetPass(1);
+  EXPECT_EQ(app.Module1.ShiftHeld, -1);
+  QTest::keyClick(&box, Qt::Key_Shift);
+  EXPECT_EQ(app.Module1.ShiftHeld, 0);
+}
+
 TEST_F(FormWindowTest, ShiftOnTheLfoFormSetsTheFlagOnlyWhereNoControlHasTheFocus) {
   app.F_Tessoro.InitPanelParams(); // it takes a sound to load
   app.F_LFO.Show();
@@ -250,6 +267,30 @@ TEST_F(FormWindowTest, TheFormForThePortsStaysOnTop) {
   EXPECT_TRUE(WindowOf(app.F_Midi).windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_TRUE(WindowOf(app.F_Midi).isVisible());
   EXPECT_EQ(WidgetOf<QLineEdit>(app.F_Midi.AuswahlMIDIPort).text(), QStringLiteral("Synth"));
+}
+
+TEST_F(FormWindowTest, TheFormAboutTheProgramGoesAtWhateverKeyIsPressed) {
+  struct Key {
+    Qt::Key key;
+    const char *text;
+  };
+  for (const Key &each :
+       {Key{Qt::Key_A, "a"}, Key{Qt::Key_Escape, "\x1B"}, Key{Qt::Key_F5, ""},
+        Key{Qt::Key_Comma, ","}, Key{Qt::Key_Adiaeresis, "ä"}, Key{Qt::Key_Shift, ""}}) {
+    app.F_About.Show();
+    QKeyEvent press(QEvent::KeyPress, each.key, Qt::NoModifier, QString::fromUtf8(each.text));
+    QCoreApplication::sendEvent(&WindowOf(app.F_About), &press);
+    EXPECT_FALSE(app.F_About.IsLoaded()) << each.key;
+  }
+}
+
+TEST_F(FormWindowTest, AClickAnywhereInTheHintClosesIt) {
+  for (const QPoint place : {QPoint(3, 3), QPoint(12, 12), QPoint(200, 60), QPoint(300, 183)}) {
+    app.F_InfoPopUp.Show();
+    QWidget &window = WindowOf(app.F_InfoPopUp);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+    EXPECT_FALSE(app.F_InfoPopUp.IsLoaded()) << place.x();
+  }
 }
 
 TEST_F(FormWindowTest, AHiddenControlIsHidden) {

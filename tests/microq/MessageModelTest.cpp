@@ -1,4 +1,5 @@
 #include "face/microq/MessageModel.hpp"
+#include "face/microq/MicroQLook.hpp"
 
 #include <QSignalSpy>
 
@@ -65,13 +66,18 @@ TEST(MessageModelTest, OfABatchAboveTheLimitTheEndIsKept) {
   EXPECT_EQ(NumberIn(model, 9999), 12004);
 }
 
-TEST(MessageModelTest, AMalformedMessageStandsOut) {
+TEST(MessageModelTest, MalformedAndUnknownMessagesStandOutEachInItsWay) {
   MessageModel model;
-  auto messages = Programs(0, 2);
+  auto messages = Programs(0, 3);
   messages[1].meaning.kind = MicroQMessageKind::Malformed;
+  messages[2].meaning.kind = MicroQMessageKind::OtherSysEx;
   model.Append(messages);
-  EXPECT_FALSE(model.data(model.index(0, 2), Qt::ForegroundRole).isValid());
-  EXPECT_TRUE(model.data(model.index(1, 2), Qt::ForegroundRole).isValid());
+  const auto colorIn = [&model](int row) {
+    return model.data(model.index(row, 2), Qt::ForegroundRole).value<QColor>();
+  };
+  EXPECT_FALSE(colorIn(0).isValid());
+  EXPECT_EQ(colorIn(1), MicroQLook::Fault());
+  EXPECT_EQ(colorIn(2), MicroQLook::Unknown());
 }
 
 TEST(MessageModelTest, ClearLeavesNothing) {

@@ -1,21 +1,27 @@
 #include "face/microq/MicroQWindow.hpp"
+#include "face/microq/ScreenPace.hpp"
 #include "face/microq/WatchedMicroQ.hpp"
 #include "service/builtin/BuiltinSource.hpp"
+#include "tests/microq/MessageList.hpp"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
+#include <QTimer>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <thread>
+#include <cmath>
 
 namespace Tessoro::Tests {
 namespace {
 
+using namespace std::chrono_literals;
 using Bytes = std::vector<std::uint8_t>;
 
 Bytes CutoffChange(int value) {
@@ -88,34 +94,73 @@ TEST_F(MicroQWindowTest, CopyPutsTheLinesOnTheClipboard) {
   EXPECT_TRUE(lines[1].endsWith(QStringLiteral("Note C3 on, velocity 100")));
 }
 
-TEST_F(MicroQWindowTest, AnswersWhileAHundredThousandMessagesComeAndKeepsTheLastTenThousand) {
-  constexpr int count = 100'000;
+TEST_F(MicroQWindowTest, OnlyATextThatIsCutIsToldAgainWhereThePointerRests) {
   window.show();
-  std::atomic<bool> isSending = true;
-  std::thread sender([&] {
-    for (int i = 0; i < count; ++i)
-      microQ.Receive(Bytes{0xB0, static_cast<std::uint8_t>(i / 128 % 128),
-                           static_cast<std::uint8_t>(i % 128)});
-    isSending = false;
-  });
-  int clicks = 0;
-  while (isSending) {
-    QTest::mouseClick(ButtonCalled(QStringLiteral("&Pause")), Qt::LeftButton);
-    QTest::mouseClick(ButtonCalled(QStringLiteral("&Resume")), Qt::LeftButton);
-    QCoreApplication::processEvents();
-    ++clicks;
-  }
-  sender.join();
+  microQ.Receive(Bytes{0xF0, 0x3E, 0x10, 0, 0x20, 0, 2, 0x6D, 0x7C, 0xF7});
+  Bytes longOne(30, 0x2A);
+  longOne.front() = 0xF0;
+  longOne.back() = 0xF7;
+  microQ.Receive(longOne);
   window.Refresh();
-  EXPECT_GT(clicks, 0);
-  EXPECT_EQ(inbox.Total(), static_cast<std::uint64_t>(count));
-  ASSERT_EQ(window.Messages().rowCount(), 10000);
-  for (int row = 0; row < 10000; ++row) {
-    const int sent = count - 10000 + row;
-    const MicroQMessage &meaning = window.Messages().At(row).meaning;
-    ASSERT_EQ(meaning.number, sent / 128 % 128) << row;
-    ASSERT_EQ(meaning.value, sent % 128) << row;
-  }
+  const QTreeView &list = MessageListOf(window);
+  const auto toldAt = [&](int row) {
+    const QPoint place = list.visualRect(list.model()->index(row, MessageModel::Bytes)).center();
+    QHelpEvent rest(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list.viewport(), &rest);
+    return QToolTip::text().toStdString();
+  };
+  EXPECT_EQ(toldAt(0), "") << "a parameter change fits";
+  std::string whole = "F0";
+  for (int i = 0; i < 28; ++i)
+    whole += " 2A";
+  EXPECT_EQ(toldAt(1), whole + " F7");
+}
+
+TEST_F(MicroQWindowTest, LooksWhileSomethingHappensAndThenRests) {
+  window.show();
+  EXPECT_FALSE(window.IsLooking());
+  microQ.Receive(CutoffChange(64));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.IsLooking(); }));
+  // The value is marked for a while, and the mark has to go.
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window.IsLooking(); }));
+  EXPECT_EQ(window.Messages().rowCount(), 1);
+  EXPECT_FALSE(window.Buffer().HasMarks());
+  microQ.Receive(Bytes{0x90, 60, 100});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.Messages().rowCount() == 2; }));
+}
+
+TEST_F(MicroQWindowTest, RestsWhileItIsHidden) {
+  window.show();
+  window.hide();
+  microQ.Receive(CutoffChange(64));
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(window.IsLooking());
+  EXPECT_EQ(window.Messages().rowCount(), 0);
+}
+
+TEST_F(MicroQWindowTest, GoesAtThePaceThatItsScreenHasNow) {
+  auto *timer = window.findChild<QTimer *>();
+  window.show();
+  microQ.Receive(CutoffChange(64));
+  window.Refresh();
+  const auto pace = ScreenPace::Interval(window.screen()->refreshRate());
+  EXPECT_EQ(timer->intervalAsDuration(), pace);
+  timer->start(pace * 3); // as that of another screen, where the window was before
+  window.Refresh();
+  EXPECT_EQ(timer->intervalAsDuration(), pace);
+}
+
+TEST(ScreenPaceTest, IsNeverFasterThanTheScreen) {
+  EXPECT_EQ(ScreenPace::Interval(50), 20ms);
+  EXPECT_EQ(ScreenPace::Interval(60), 17ms);
+  EXPECT_EQ(ScreenPace::Interval(59.94), 17ms);
+  EXPECT_EQ(ScreenPace::Interval(144), 7ms);
+  EXPECT_EQ(ScreenPace::Interval(500), 2ms);
+}
+
+TEST(ScreenPaceTest, IsTheUsualOneWhereThePlatformSaysNothingCredible) {
+  for (const double nonsense : {0.0, -60.0, 1.0, 1e9, std::nan("")})
+    EXPECT_EQ(ScreenPace::Interval(nonsense), ScreenPace::Interval(60)) << nonsense;
 }
 
 TEST(WatchedMicroQTest, ItsWindowComesUpEachTimeTheDeviceIsOpened) {

@@ -75,6 +75,26 @@ TEST(ServiceMessageInboxTest, LosesNothingOfAHundredThousandMessagesThatAreTaken
   EXPECT_EQ(inbox.Total(), static_cast<std::uint64_t>(count));
 }
 
+TEST(ServiceMessageInboxTest, RingsOnceForWhatComesNext) {
+  BuiltinMicroQ microQ;
+  MessageInbox inbox(3);
+  microQ.AddListener(inbox);
+  int rings = 0;
+  EXPECT_FALSE(inbox.RingAtNext(0)) << "nobody hears it";
+  inbox.SetBell([&rings] { ++rings; });
+  microQ.Receive(Bytes{0xF8});
+  EXPECT_EQ(rings, 0) << "nobody asked";
+  EXPECT_FALSE(inbox.RingAtNext(0)) << "there is one already";
+  EXPECT_TRUE(inbox.RingAtNext(1));
+  microQ.Receive(Bytes{0xF8});
+  microQ.Receive(Bytes{0xF8});
+  EXPECT_EQ(rings, 1);
+  EXPECT_TRUE(inbox.RingAtNext(3));
+  inbox.SetBell({});
+  microQ.Receive(Bytes{0xF8});
+  EXPECT_EQ(rings, 1);
+}
+
 TEST(ServiceBuiltinMicroQTest, AControllerChangesTheParameterThatItStandsFor) {
   BuiltinMicroQ microQ;
   microQ.Receive(Bytes{0xB3, 29, 60});
