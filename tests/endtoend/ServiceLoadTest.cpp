@@ -50,19 +50,6 @@ std::string SoundFile(const std::string &name) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// As TestMidi notes a message: the bytes of a long one, the word of a short one.
-std::string Noted(const Bytes &bytes) {
-  const bool isLong = bytes.front() == 0xF0;
-  std::string text = isLong ? "" : "00";
-  std::array<char, 4> digits{};
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    std::snprintf(digits.data(), digits.size(), isLong && i > 0 ? " %02X" : "%02X",
-                  bytes[isLong ? i : bytes.size() - 1 - i]);
-    text += digits.data();
-  }
-  return text;
-}
-
 // Plays numbered notes, now and then, as long as it lives.
 class Player {
 public:
@@ -225,8 +212,8 @@ public:
         ++notes;
         arrived[each.bytes] = each.time;
       } else {
-        ASSERT_FALSE(sent.empty()) << Noted(each.bytes) << " was never sent";
-        ASSERT_EQ(Noted(each.bytes), sent.front()) << "message " << messages;
+        ASSERT_FALSE(sent.empty()) << NotedMessage(each.bytes) << " was never sent";
+        ASSERT_EQ(NotedMessage(each.bytes), sent.front()) << "message " << messages;
         sent.pop_front();
         ++messages;
       }

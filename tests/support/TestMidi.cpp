@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdio>
 #include <initializer_list>
-#include <span>
+#include <ranges>
 
 namespace Tessoro {
 
@@ -38,6 +38,15 @@ void PutText(std::string &buffer, const std::string &text) {
 }
 
 } // namespace
+
+std::string NotedMessage(std::span<const std::uint8_t> bytes) {
+  if (bytes.front() == 0xF0)
+    return Bytes(bytes);
+  std::uint32_t word = 0;
+  for (const std::uint8_t byte : std::ranges::reverse_view(bytes))
+    word = word << 8 | byte;
+  return Word(word);
+}
 
 MidiResult TestMidi::ResultOf(const std::string &operation) const {
   const auto found = results.find(operation);

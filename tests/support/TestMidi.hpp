@@ -5,10 +5,14 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
 namespace Tessoro {
+
+// A message as it stands in `messages` below: the bytes of a long one, the word of a short one.
+std::string NotedMessage(std::span<const std::uint8_t> bytes);
 
 class TestMidi : public MidiService {
 public:
