@@ -23,11 +23,11 @@ public:
   Label Label2                  {*this, "Label2",               { 240, 1080,  420, 255}, {.caption = "in:"}};
   ComboBox AuswahlMIDIinPort    {*this, "AuswahlMIDIinPort",    { 705, 1050, 3840, 315}, {.text = "", .says = "MIDI IN port"}};
   ComboBox AuswahlMIDIinChannel {*this, "AuswahlMIDIinChannel", {4740, 1050, 1020, 315}, {.text = "", .says = "MIDI IN channel"}};
-  Shape ShapeCapabilities       {*this, "ShapeCapabilities",    { 600, 1545, 3945, 1305}, ShapeKind::Inset};
-  Label Text1                   {*this, "Text1",                { 705, 1620, 3600, 255}, {.caption = "Manufacturer ID: - not set -"}};
-  Label Text2                   {*this, "Text2",                { 705, 1920, 3600, 255}, {.caption = "Product ID: - not set -"}};
-  Label Text3                   {*this, "Text3",                { 705, 2220, 3600, 255}, {.caption = "Driver ver.: - not set -"}};
-  Label Text4                   {*this, "Text4",                { 705, 2520, 3600, 255}, {.caption = "Type: - not set -"}};
+  Shape ShapeCapabilities       {*this, "ShapeCapabilities",    { 705, 1545, 3840, 1305}, ShapeKind::Inset};
+  Label Text1                   {*this, "Text1",                { 810, 1620, 3600, 255}, {.caption = "Manufacturer ID: - not set -"}};
+  Label Text2                   {*this, "Text2",                { 810, 1920, 3600, 255}, {.caption = "Product ID: - not set -"}};
+  Label Text3                   {*this, "Text3",                { 810, 2220, 3600, 255}, {.caption = "Driver ver.: - not set -"}};
+  Label Text4                   {*this, "Text4",                { 810, 2520, 3600, 255}, {.caption = "Type: - not set -"}};
   CommandButton Command1        {*this, "Command1",             {4740, 2430, 1020, 420}, {.caption = "&Close"}};
   // clang-format on
 

@@ -28,17 +28,35 @@ void ComboBoxView::SetScale(const Tessoro::Scale &newScale) {
 }
 
 // Writing takes the cursor to the end and forgets what could be undone, so equal texts aren't
-// written.
+// written. Of a text that is too long for the field the beginning is shown, but not to someone who
+// types at its end.
 void ComboBoxView::ShowContent() {
   const QString shown = FromModel(combo.Text());
-  if (shown != text())
-    setText(shown);
+  if (shown == text())
+    return;
+  setText(shown);
+  if (!isBeingTyped)
+    home(false);
 }
 
 void ComboBoxView::Edited(const QString &edited) {
+  isBeingTyped = true;
   const std::string told = TakeEdit(*this, FromModel(combo.Text()), edited);
   Enter([&] { combo.UserEdit(told); });
   ShowContent();
+  isBeingTyped = false;
+}
+
+void ComboBoxView::focusInEvent(QFocusEvent *event) {
+  QLineEdit::focusInEvent(event);
+  if (hasSelectedText())
+    setSelection(static_cast<int>(text().size()), -static_cast<int>(text().size()));
+}
+
+void ComboBoxView::focusOutEvent(QFocusEvent *event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+    home(false);
 }
 
 void ComboBoxView::Pick(int index) {

@@ -28,6 +28,8 @@ public:
 protected:
   void ShowContent() override;
 
+  void focusInEvent(QFocusEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
@@ -43,6 +45,7 @@ private:
 
   ComboBox &combo;
   QPointer<ItemList> list;
+  bool isBeingTyped = false;
   int wheelTurn = 0;
 };
 

@@ -92,6 +92,12 @@ void DirListView::keyPressEvent(QKeyEvent *event) {
     QListWidget::keyPressEvent(event);
 }
 
+// A press beside the items would take the mark off the open folder.
+void DirListView::mousePressEvent(QMouseEvent *event) {
+  if (itemAt(event->pos()) != nullptr)
+    QListWidget::mousePressEvent(event);
+}
+
 void DirListView::mouseDoubleClickEvent(QMouseEvent *event) {
   QListWidget::mouseDoubleClickEvent(event);
   if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr)
@@ -134,8 +140,10 @@ void FileListView::keyPressEvent(QKeyEvent *event) {
 }
 
 void FileListView::mousePressEvent(QMouseEvent *event) {
+  if (itemAt(event->pos()) == nullptr)
+    return;
   QListWidget::mousePressEvent(event);
-  if (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr)
+  if (event->button() == Qt::LeftButton)
     ChooseCurrent();
 }
 

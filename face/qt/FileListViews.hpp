@@ -35,6 +35,7 @@ protected:
   void ShowContent() override;
 
   void keyPressEvent(QKeyEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:

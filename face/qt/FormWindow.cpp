@@ -17,12 +17,16 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tessoro {
 
 namespace {
 
 constexpr int EndOfDragMilliseconds = 180;
+constexpr int MostRefusals = 8;
+// Each refusal doubles the wait for the next try, up to so many times.
+constexpr int MostDoublings = 3;
 
 } // namespace
 
@@ -36,7 +40,6 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow
   OrderTabs();
   ListenToZoomKeys();
   endOfDrag.setSingleShot(true);
-  endOfDrag.setInterval(EndOfDragMilliseconds);
   connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);
   LayOut(1);
   sizeAtOne = SizeAtZoom();
@@ -158,10 +161,12 @@ QSize FormWindow::SizeAtZoom() const { return {ground->width(), ground->y() + gr
 
 void FormWindow::resizeEvent(QResizeEvent *event) {
   QWidget::resizeEvent(event);
+  if (isAskingAnew)
+    return;
   if (size() != settledSize || SizeAtZoom() != settledSize) {
     LayOut(ZoomThatFits());
     if (!FillsScreen())
-      endOfDrag.start();
+      AwaitEndOfDrag();
   }
   if (menu != nullptr)
     menu->resize(width(), menu->height());
@@ -179,11 +184,34 @@ double FormWindow::ZoomThatFits() const {
   return std::min(byWidth, byHeight);
 }
 
+void FormWindow::AwaitEndOfDrag() {
+  if (size() != refusedSize)
+    refusals = 0;
+  if (refusals <= MostRefusals)
+    endOfDrag.start(EndOfDragMilliseconds << std::min(refusals, MostDoublings));
+}
+
+// A window manager puts its own size back while the corner is held, also where it is held still.
 void FormWindow::TakeProportion() {
-  if (FillsScreen() || size() == refusedSize)
+  if (FillsScreen() || size() == SizeAtZoom())
     return;
   refusedSize = size();
+  ++refusals;
   SetZoom(zoom);
+  mayHaveBeenIgnored = true;
+}
+
+// Other window managers don't even answer while the corner is held, and the toolkit takes the size
+// as given. When the pointer comes back, nobody holds the corner any more. What the toolkit takes
+// as given it doesn't ask for again, so another size goes before.
+void FormWindow::enterEvent(QEnterEvent *event) {
+  QWidget::enterEvent(event);
+  if (!std::exchange(mayHaveBeenIgnored, false) || FillsScreen())
+    return;
+  isAskingAnew = true;
+  resize(settledSize + QSize(0, 1));
+  resize(settledSize);
+  isAskingAnew = false;
 }
 
 void FormWindow::LayOut(double newZoom) {

@@ -46,6 +46,7 @@ protected:
   void keyReleaseEvent(QKeyEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
+  void enterEvent(QEnterEvent *event) override;
 
 private:
   void MakeControls();
@@ -58,6 +59,7 @@ private:
   QSize RoomOfScreen() const;
   bool FillsScreen() const;
   double ZoomThatFits() const;
+  void AwaitEndOfDrag();
   void TakeProportion();
   void TakeKeyPress(const QKeyEvent &event);
   void TakeKeyRelease(const QKeyEvent &event);
@@ -74,8 +76,12 @@ private:
   QSize sizeAtOne;
   // The last size in proportion: a drag is measured from there.
   QSize settledSize;
-  // The last size out of proportion; a window system that insists on it gets it.
+  // The last size out of proportion, and how often the window system came back to it; one that
+  // insists gets it.
   QSize refusedSize;
+  int refusals = 0;
+  bool mayHaveBeenIgnored = false;
+  bool isAskingAnew = false;
   QTimer endOfDrag;
 };
 

@@ -4,7 +4,10 @@
 #include "face/qt/Text.hpp"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QMessageBox>
+
+#include <algorithm>
 
 namespace Tessoro {
 
@@ -55,6 +58,13 @@ MsgBoxButton FromQt(int button) {
   }
 }
 
+bool AnyWindowStaysOnTop() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(), [](const QWidget *window) {
+    return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+  });
+}
+
 } // namespace
 
 MsgBoxButton ShowMessageBox(QWidget *parent, double zoom, const QString &text, int flags,
@@ -71,7 +81,7 @@ MsgBoxButton ShowMessageBox(QWidget *parent, double zoom, const QString &text, i
   box.setEscapeButton(buttons.escape);
   box.setWindowModality(Qt::ApplicationModal); // resets the flags of the window
   // A box behind a window that stays on top could not be answered.
-  if (parent != nullptr && parent->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
+  if (AnyWindowStaysOnTop())
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.exec();
   const QAbstractButton *clicked = box.clickedButton();

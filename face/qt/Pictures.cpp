@@ -2,6 +2,7 @@
 // a display.
 #include "face/qt/FormWindow.hpp"
 #include "face/qt/MidiOfBuild.hpp"
+#include "face/qt/PictureFiles.hpp"
 #include "face/qt/Program.hpp"
 #include "face/qt/Text.hpp"
 
@@ -16,6 +17,7 @@
 
 #include <array>
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -112,13 +114,23 @@ bool DrawMicroQ(Application &editor, const QDir &folder) {
   return SaveAtAllScales(*window, QStringLiteral("microQ"), folder);
 }
 
+// As they stand when they have been used.
+void ChoosePortsAndSound(Application &editor) {
+  for (ComboBox *ports : {&editor.F_Midi.AuswahlMIDIPort, &editor.F_Midi.AuswahlMIDIinPort})
+    if (ports->HasItem(0))
+      ports->SetListIndex(0);
+  editor.Module1.FileFormMode = "Open";
+  editor.F_FileIO.Show();
+  editor.F_FileIO.File1.UserChoose("Glass Bells.tss");
+}
+
 int DrawForms(const QDir &folder) {
   QTimer answers;
   QObject::connect(&answers, &QTimer::timeout, &AnswerBox);
   answers.start(20);
   const QTemporaryDir settings; // none in it, so the form for the ports comes up by itself
   const auto midi = MakeBuiltinMidiServiceWithWindow();
-  Program program(*midi, ToModel(settings.path()));
+  Program program(*midi, ToModel(settings.path()), std::make_unique<PictureFiles>());
   program.Editor().Start();
   LetTimePass(SettlingMilliseconds);
   Application &editor = program.Editor();
@@ -129,6 +141,7 @@ int DrawForms(const QDir &folder) {
   const Form &mainForm = *editor.Forms().front(); // a run makes it first
   bool isSaved = draw(mainForm, {});
   editor.Event([&editor] { InitSound(editor); });
+  editor.Event([&editor] { ChoosePortsAndSound(editor); });
   for (Form *form : editor.Forms()) {
     if (!form->IsShown())
       editor.Event([form] { form->Show(); });

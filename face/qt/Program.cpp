@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 #include <filesystem>
+#include <utility>
 
 namespace Tessoro {
 
@@ -63,11 +64,13 @@ std::string ProgramPath() {
   return TextFromQt(ofUser);
 }
 
-Program::Program(MidiService &midi, const std::string &programPath)
-    : editor({.midi = midi,
+Program::Program(MidiService &midi, const std::string &programPath,
+                 std::unique_ptr<FileSystem> seenFiles)
+    : files(std::move(seenFiles)),
+      editor({.midi = midi,
               .screen = screen,
               .clock = clock,
-              .files = files,
+              .files = *files,
               .random = random,
               .programPath = programPath,
               .decimalSign = DecimalSignOf(QLocale::system().decimalPoint())}) {}

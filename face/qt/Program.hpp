@@ -7,6 +7,7 @@
 #include "shell/Application.hpp"
 #include "sound/RandomNumbers.hpp"
 
+#include <memory>
 #include <string>
 
 namespace Tessoro {
@@ -21,7 +22,8 @@ std::string ProgramPath();
 // Needs a QApplication.
 class Program {
 public:
-  Program(MidiService &midi, const std::string &programPath);
+  Program(MidiService &midi, const std::string &programPath,
+          std::unique_ptr<FileSystem> seenFiles = std::make_unique<StandardFileSystem>());
 
   // Returns the exit status when the editor has ended.
   int Run();
@@ -32,7 +34,7 @@ public:
 private:
   QtScreen screen;
   QtClock clock{screen.Entrance()};
-  StandardFileSystem files;
+  std::unique_ptr<FileSystem> files;
   StandardRandomNumbers random;
   Application editor;
 };

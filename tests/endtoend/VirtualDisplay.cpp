@@ -116,6 +116,8 @@ void VirtualDisplay::Focus(const std::string &window) const {
   });
 }
 
+std::string VirtualDisplay::Focused() const { return Do("getwindowfocus"); }
+
 void VirtualDisplay::PointAt(const Spot &spot) const { Do(PointingAt(spot)); }
 
 void VirtualDisplay::Press(const Spot &spot) const { Do(PointingAt(spot) + " mousedown 1"); }
@@ -127,6 +129,8 @@ void VirtualDisplay::Click(const Spot &spot) const { Do(PointingAt(spot) + " cli
 void VirtualDisplay::DoubleClick(const Spot &spot) const {
   Do(PointingAt(spot) + " click --repeat 2 --delay 20 1");
 }
+
+void VirtualDisplay::RightClick(const Spot &spot) const { Do(PointingAt(spot) + " click 3"); }
 
 std::string VirtualDisplay::WindowUnderPointer() const {
   return Entry(Do("getmouselocation --shell"), "WINDOW");

@@ -66,6 +66,8 @@ public:
   void Close(const std::string &window) const;
   // Brings it to the front and gives it the keyboard.
   void Focus(const std::string &window) const;
+  // Who has the keyboard.
+  std::string Focused() const;
 
   void PointAt(const Spot &spot) const;
   // The left button, also away from where the pointer was.
@@ -73,6 +75,7 @@ public:
   void ReleaseButton() const;
   void Click(const Spot &spot) const;
   void DoubleClick(const Spot &spot) const;
+  void RightClick(const Spot &spot) const;
   std::string WindowUnderPointer() const;
 
   // Key names of X, as "1 2 BackSpace alt+f".

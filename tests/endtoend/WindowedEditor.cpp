@@ -72,6 +72,8 @@ ShownForm WindowedEditor::MainForm() const { return {display, MainTitle, Design(
 
 ShownForm WindowedEditor::PortForm() const { return {display, "^MIDI settings$", Design().F_Midi}; }
 
+ShownForm WindowedEditor::FileForm() const { return {display, "^Open", Design().F_FileIO}; }
+
 ShownForm WindowedEditor::Hint() const { return {display, "^Tessoro info$", Design().F_InfoPopUp}; }
 
 void WindowedEditor::AnswerBox(const std::string &title, const std::string &key) const {

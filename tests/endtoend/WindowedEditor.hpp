@@ -47,6 +47,8 @@ public:
   const Application &Design() const { return design.app; }
   ShownForm MainForm() const;
   ShownForm PortForm() const;
+  // That of opening.
+  ShownForm FileForm() const;
   ShownForm Hint() const;
 
   // Waits for a message box of exactly that title, presses the key, and waits until it has gone.

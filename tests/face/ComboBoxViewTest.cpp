@@ -2,6 +2,7 @@
 #include "face/qt/ItemList.hpp"
 #include "tests/face/FaceTest.hpp"
 
+#include <QApplication>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -153,6 +154,32 @@ TEST_F(ComboBoxViewTest, ShowsWhatCodeWrites) {
   bench.Combo.AddItem("Noise");
   EXPECT_EQ(field->text(), QString());
   EXPECT_EQ(OpenList().count(), 5);
+}
+
+TEST_F(ComboBoxViewTest, OfATextThatIsTooLongTheBeginningIsSeenUntilItIsTyped) {
+  const auto firstSeen = [this] {
+    field->grab(); // it scrolls as it is painted
+    return field->cursorPositionAt(QPoint(8, 8));
+  };
+  const std::string longName = "USB MIDI Interface of many words, port 1";
+  bench.Combo.AddItem(longName);
+  bench.Combo.SetText(longName);
+  EXPECT_EQ(firstSeen(), 0) << "written by code";
+  bench.Combo.SetListIndex(3);
+  QTest::keyClick(field, Qt::Key_Down);
+  EXPECT_EQ(field->text().toStdString(), longName);
+  EXPECT_EQ(firstSeen(), 0) << "picked with a key";
+  QTest::keyClick(field, Qt::Key_End);
+  QTest::keyClicks(field, QStringLiteral("2"));
+  EXPECT_GT(firstSeen(), 0) << "its end is worked at";
+  Focus(bench.Box);
+  EXPECT_EQ(firstSeen(), 0) << "left";
+  QTest::keyClick(&WidgetOf(bench.Box), Qt::Key_Backtab);
+  for (int i = 0; i < 60 && !field->hasFocus(); ++i)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  ASSERT_TRUE(field->hasFocus());
+  EXPECT_TRUE(field->hasSelectedText());
+  EXPECT_EQ(firstSeen(), 0) << "entered by Tab";
 }
 
 TEST_F(ComboBoxViewTest, AHandlerMayPutBackWhatWasPicked) {

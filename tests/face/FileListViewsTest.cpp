@@ -66,6 +66,19 @@ TEST_F(FileListViewsTest, ADoubleClickOnAFileIsAClickAndADoubleClick) {
   EXPECT_THAT(HeardOfLists(), testing::IsSupersetOf({"File Click lead.tss", "File DblClick"}));
 }
 
+TEST_F(FileListViewsTest, APressBesideTheItemsLeavesTheMarkWhereItIs) {
+  auto &dirs = WidgetOf<QListWidget>(bench.Dir);
+  auto &sounds = WidgetOf<QListWidget>(bench.File);
+  Click(sounds, 1);
+  Heard();
+  for (const QListWidget *list : {&dirs, &sounds})
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->viewport()->rect().bottomLeft() + QPoint(20, -2));
+  EXPECT_THAT(HeardOfLists(), IsEmpty());
+  EXPECT_TRUE(dirs.item(1)->isSelected());
+  EXPECT_TRUE(sounds.item(1)->isSelected());
+}
+
 TEST_F(FileListViewsTest, FilesFollowTheirPath) {
   bench.File.SetPath("/home/sounds");
   EXPECT_EQ(WidgetOf<QListWidget>(bench.File).count(), 0);

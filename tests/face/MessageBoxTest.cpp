@@ -138,5 +138,24 @@ TEST_F(MessageBoxTest, ABoxAboveAFormThatStaysOnTopStaysOnTopToo) {
   app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
 }
 
+// It may be worked in another window meanwhile.
+TEST_F(MessageBoxTest, ABoxAboveAnotherFormIsNotHiddenByTheOneThatStaysOnTop) {
+  app.F_Midi.Show();
+  WindowOf(bench).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(bench)));
+  bool staysOnTop = false;
+  const auto see = [&](QMessageBox &box) {
+    staysOnTop = box.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    box.accept();
+  };
+  WithNextBox(see);
+  app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
+  EXPECT_TRUE(staysOnTop);
+  app.F_Midi.Unload();
+  WithNextBox(see);
+  app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
+  EXPECT_FALSE(staysOnTop);
+}
+
 } // namespace
 } // namespace Tessoro::Tests

@@ -4,9 +4,54 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTest>
+#include <QTimer>
 
 namespace Tessoro::Tests {
 namespace {
+
+class ResizeCounter : public QObject {
+public:
+  explicit ResizeCounter(QWidget &watched) { watched.installEventFilter(this); }
+
+  int counted = 0;
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    counted += event->type() == QEvent::Resize ? 1 : 0;
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+// Tiles the screen, say: whatever the window asks for, it gets this.
+class InsistingFrame : public QObject {
+public:
+  InsistingFrame(QWidget &framed, QSize given) : size(given), window(framed) {
+    window.installEventFilter(this);
+    window.resize(size);
+  }
+
+  const QSize size;
+  int refused = 0;
+
+protected:
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    if (event->type() == QEvent::Resize && window.size() != size)
+      QTimer::singleShot(0, this, [this] {
+        ++refused;
+        window.resize(size);
+      });
+    return QObject::eventFilter(watched, event);
+  }
+
+private:
+  QWidget &window;
+};
+
+bool IsQuietFor(const int &count, int milliseconds) {
+  const int before = count;
+  QTest::qWait(milliseconds);
+  return count == before;
+}
 
 class ZoomTest : public FaceTest {
 protected:
@@ -71,6 +116,41 @@ TEST_F(ZoomTest, TheCornerZoomsWithTheProportionKept) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return ProportionError() < 3; }));
   EXPECT_EQ(window->width(), Ground()->width());
   EXPECT_EQ(Ground()->x(), 0);
+}
+
+// A window manager goes by the pointer for as long as the corner is held, and the user may pause.
+TEST_F(ZoomTest, TheProportionIsTakenHoweverOftenTheCornerPutsItsSizeBack) {
+  const QSize dragged(sizeAtOne.width() * 7 / 5, sizeAtOne.height() * 8 / 5);
+  for (int pause = 0; pause < 3; ++pause) {
+    window->resize(dragged);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return ProportionError() < 3; })) << pause;
+  }
+}
+
+TEST_F(ZoomTest, AWindowSystemThatInsistsOnItsSizeIsLeftInPeace) {
+  const InsistingFrame frame(*window, {sizeAtOne.width() * 6 / 5, sizeAtOne.height() * 8 / 5});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return frame.refused >= 4; }, 10'000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return IsQuietFor(frame.refused, 3000); }, 30'000));
+  EXPECT_EQ(window->size(), frame.size);
+}
+
+// Some window managers leave a request unanswered while the corner is held.
+TEST_F(ZoomTest, AfterADragTheSizeIsAskedForOnceMoreWhenThePointerComesBack) {
+  const auto sizesAsked = [this] {
+    ResizeCounter counter(*window);
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QCoreApplication::sendEvent(window, &enter);
+    return counter.counted;
+  };
+  EXPECT_EQ(sizesAsked(), 0);
+  window->resize(sizeAtOne.width() * 7 / 5, sizeAtOne.height() * 8 / 5);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return ProportionError() < 3; }));
+  const QSize settled = window->size();
+  const double zoom = window->Zoom();
+  EXPECT_EQ(sizesAsked(), 2) << "another one, and this one again";
+  EXPECT_EQ(window->size(), settled);
+  EXPECT_EQ(window->Zoom(), zoom);
+  EXPECT_EQ(sizesAsked(), 0);
 }
 
 TEST_F(ZoomTest, OneEdgeZoomsToo) {

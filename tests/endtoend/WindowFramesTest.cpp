@@ -1,0 +1,147 @@
+// Windows with frames: how they behave under a window manager.
+#include "tests/endtoend/Waiting.hpp"
+#include "tests/endtoend/WindowManager.hpp"
+#include "tests/endtoend/WindowedEditor.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <thread>
+#include <utility>
+
+namespace Tessoro::Tests {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char *MainTitle = "^Tessoro (freeware )?v[0-9]";
+// Of the menu, which comes in whole pixels.
+constexpr double Tolerance = 6;
+
+bool Overlap(const Area &one, const Area &other) {
+  return one.left < other.left + other.width && other.left < one.left + one.width &&
+         one.top < other.top + other.height && other.top < one.top + one.height;
+}
+
+bool IsOnDisplay(const Area &area) {
+  return area.left >= 0 && area.top >= 0 && area.left + area.width <= VirtualDisplay::Width &&
+         area.top + area.height <= VirtualDisplay::Height;
+}
+
+class WindowFramesTest : public testing::Test {
+protected:
+  void SetUp() override {
+    if (!WindowManager::IsInstalled())
+      GTEST_SKIP() << "openbox, the window manager of this test, isn't installed";
+    setenv("JACK_DEFAULT_SERVER", "tessoro-test-no-server", 1);
+    display = std::make_unique<VirtualDisplay>();
+    manager = std::make_unique<WindowManager>(*display);
+    place.WriteSettings(SettingsWithPorts(0, 0));
+    editor = std::make_unique<WindowedEditor>(*display, place);
+    mainWindow = display->WaitForWindow(MainTitle);
+    editor->MainForm();
+    atFirst = display->AreaOf(mainWindow);
+  }
+  void TearDown() override { unsetenv("JACK_DEFAULT_SERVER"); }
+
+  void MoveMainFormTo(Point leftTop) const {
+    OutputOf("DISPLAY=" + display->Name() + " xdotool windowmove " + mainWindow + " " +
+             std::to_string(leftTop.x) + " " + std::to_string(leftTop.y));
+    WaitFor("the main window in its place",
+            [&] { return std::abs(manager->FrameOf(mainWindow).left - leftTop.x) < 10; });
+  }
+
+  // Never less than the time that the program takes for the end of a drag.
+  bool SettlesInProportion() const {
+    return Eventually(
+        [&] {
+          const Area area = display->AreaOf(mainWindow);
+          const double zoom = static_cast<double>(area.width) / atFirst.width;
+          return std::abs(area.height - atFirst.height * zoom) < Tolerance;
+        },
+        5s);
+  }
+  double Zoom() const {
+    return static_cast<double>(display->AreaOf(mainWindow).width) / atFirst.width;
+  }
+  void ExpectBesideMainForm(const std::string &window) const {
+    const Area frame = manager->FrameOf(window);
+    EXPECT_TRUE(IsOnDisplay(frame)) << frame.left << " " << frame.top;
+    EXPECT_FALSE(Overlap(frame, manager->FrameOf(mainWindow))) << frame.left << " " << frame.top;
+  }
+  void DoubleClickTitle() const {
+    const Area frame = manager->FrameOf(mainWindow);
+    display->DoubleClick({{.x = frame.left + frame.width / 2, .y = frame.top + 8}});
+  }
+
+  EditorDirectory place;
+  std::unique_ptr<VirtualDisplay> display;
+  std::unique_ptr<WindowManager> manager;
+  std::unique_ptr<WindowedEditor> editor;
+  std::string mainWindow;
+  Area atFirst;
+};
+
+TEST_F(WindowFramesTest, TheCornerOfTheMainWindowZoomsItWithItsProportionKept) {
+  MoveMainFormTo({.x = 10, .y = 10});
+  manager->DragCorner(mainWindow, {.x = 350, .y = 320}, 20, 5ms);
+  ASSERT_TRUE(SettlesInProportion());
+  EXPECT_NEAR(Zoom(), 1.43, 0.1);
+  manager->DragCorner(mainWindow, {.x = -300, .y = -120}, 10, 5ms);
+  ASSERT_TRUE(SettlesInProportion());
+  EXPECT_LT(Zoom(), 1.15);
+}
+
+// Meanwhile the window asks for its proportion, and the manager has the last word.
+TEST_F(WindowFramesTest, TheProportionIsKeptThoughTheUserPausesWithTheCornerInHand) {
+  MoveMainFormTo({.x = 10, .y = 10});
+  manager->DragCorner(mainWindow, {.x = 300, .y = 60}, 4, 500ms);
+  EXPECT_TRUE(SettlesInProportion());
+}
+
+TEST_F(WindowFramesTest, MaximisedItFillsTheDisplayAndComesBackAsItWas) {
+  DoubleClickTitle();
+  ASSERT_TRUE(
+      Eventually([&] { return display->AreaOf(mainWindow).width == VirtualDisplay::Width; }, 5s));
+  std::this_thread::sleep_for(500ms); // it asks for no other size
+  EXPECT_EQ(display->AreaOf(mainWindow).width, VirtualDisplay::Width);
+  DoubleClickTitle();
+  ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
+  EXPECT_TRUE(SettlesInProportion());
+}
+
+TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay) {
+  MoveMainFormTo({.x = 5, .y = 5});
+  for (const auto &[keys, title] :
+       {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
+        std::pair{"alt+m Up Return", "^MIDI settings$"}}) {
+    editor->MainForm().PressKeys(keys);
+    const std::string form = display->WaitForWindow(title);
+    ExpectBesideMainForm(form);
+    display->Focus(form);
+    display->PressKeys("alt+F4");
+    display->WaitUntilGone(title);
+  }
+  display->Focus(mainWindow);
+  display->PressKeys("alt+F4");
+  EXPECT_EQ(editor->ExitStatus(), 0);
+}
+
+TEST_F(WindowFramesTest, ThePortsStayOnTopAndABoxOnTopOfThem) {
+  MoveMainFormTo({.x = 5, .y = 5});
+  editor->OpenPortFormByMenu();
+  const std::string ports = display->WaitForWindow("^MIDI settings$");
+  MoveMainFormTo({.x = manager->FrameOf(ports).left - 200, .y = 5});
+  display->PressKeys("alt+Tab");
+  WaitFor("the main window in front", [&] { return display->Focused() == mainWindow; });
+  EXPECT_TRUE(manager->LiesAbove(ports, mainWindow));
+  // With the ports shut, a change can't go out.
+  editor->MainForm().Type(editor->Design().F_Tessoro.TextF1_cutoff, "6");
+  EXPECT_TRUE(manager->LiesAbove(display->WaitForWindow("^Tessoro$"), ports));
+}
+
+} // namespace
+} // namespace Tessoro::Tests
