@@ -76,8 +76,8 @@ void SyxImport::SetControl(const SyxTarget &target, int value) {
     (*combo)->SetListIndex(value);
   else if (auto *const *bar = std::get_if<ScrollBar *>(&target))
     (*bar)->SetValue(value);
-  else if (auto *const *check = std::get_if<CheckBox *>(&target))
-    (*check)->SetValue(value);
+  else
+    std::get<CheckBox *>(target)->SetValue(value);
 }
 
 void SyxImport::SetShadow(const SyxTarget &target, int value) {
@@ -85,8 +85,8 @@ void SyxImport::SetShadow(const SyxTarget &target, int value) {
     (*shadow)->SetNumber(value);
   else if (auto *const *integer = std::get_if<std::int16_t *>(&target))
     **integer = static_cast<std::int16_t>(value);
-  else if (auto *const *text = std::get_if<std::string *>(&target))
-    **text = IntegerText(value);
+  else
+    *std::get<std::string *>(target) = IntegerText(value);
 }
 
 void SyxImport::SelectOctave(ComboBox &combo, int byte) {
@@ -127,8 +127,6 @@ void SyxImport::TakeSecondByte(std::size_t step, int byte) {
 
 void SyxImport::Apply(const SyxByte &row, int number, int byte) {
   switch (row.rule) {
-  case SyxRule::Ignore:
-    break;
   case SyxRule::Plain:
     SetControl(row.target, byte);
     break;
@@ -181,6 +179,8 @@ void SyxImport::Apply(const SyxByte &row, int number, int byte) {
     globals.SoundCategory += static_cast<char>(byte);
     Send(number, byte);
     break;
+  default:
+    break; // read and dropped
   }
 }
 

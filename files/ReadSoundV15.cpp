@@ -13,15 +13,15 @@ namespace {
 void StoreText(const LineTarget &target, const std::string &text, char sign) {
   if (auto *const *shadow = std::get_if<Shadow *>(&target))
     (*shadow)->SetText(text, sign);
-  else if (auto *const *global = std::get_if<std::string *>(&target))
-    **global = text;
+  else
+    *std::get<std::string *>(target) = text;
 }
 
 void StoreNumber(const LineTarget &target, double number) {
   if (auto *const *shadow = std::get_if<Shadow *>(&target))
     (*shadow)->SetNumber(number);
-  else if (auto *const *integer = std::get_if<std::int16_t *>(&target))
-    **integer = RoundInteger(number);
+  else
+    *std::get<std::int16_t *>(target) = RoundInteger(number);
 }
 
 class SoundLoader {

@@ -35,11 +35,6 @@ fs::file_type TypeOf(const fs::path &path) {
 // A zero byte ends a name for the system, which would take it for that of another file.
 bool HasZeroByte(const std::string &name) { return name.find('\0') != std::string::npos; }
 
-// Opening one of these waits for a program at its other end, which may never come.
-bool HasOtherEnd(fs::file_type type) {
-  return type == fs::file_type::fifo || type == fs::file_type::socket;
-}
-
 // What a file name must be, and the path that it names.
 fs::path FilePath(const std::string &name) {
   if (name.empty() || HasZeroByte(name))
@@ -48,8 +43,9 @@ fs::path FilePath(const std::string &name) {
   const fs::path folder = path.parent_path();
   if (!folder.empty() && TypeOf(folder) != fs::file_type::directory)
     throw Failure(FailureCode::PathNotFound);
+  // Opening a pipe waits for a program at its other end, which may never come.
   if (const fs::file_type type = TypeOf(path);
-      type == fs::file_type::directory || HasOtherEnd(type))
+      type == fs::file_type::directory || type == fs::file_type::fifo)
     throw Failure(FailureCode::PathFileAccessError);
   return path;
 }
@@ -180,7 +176,17 @@ template <typename Test> std::vector<std::string> Names(const std::string &folde
   return names;
 }
 
-#ifndef _WIN32
+// The entry of a folder that has the name in UTF-8 or, where only that one exists, in bytes.
+#ifdef _WIN32
+fs::path NamedIn(const fs::path &folder, const fs::path &name) { return folder / name; }
+#else
+fs::path NamedIn(const fs::path &folder, const fs::path &name) {
+  const fs::path proper = folder / name;
+  const fs::path bytes = folder / ExactWindows1252FromUtf8(Utf8Of(name)).value_or(std::string());
+  std::error_code error;
+  return bytes != proper && !fs::exists(proper, error) && fs::exists(bytes, error) ? bytes : proper;
+}
+
 // The table writes blanks and the like as a backslash and three octal digits.
 std::string WithoutEscapes(const std::string &field) {
   std::string text;
@@ -218,16 +224,8 @@ std::string TextFromPath(const fs::path &path) {
 
 fs::path PathFromText(std::string_view text) {
   fs::path path;
-  for (const fs::path &name : FromUtf8(Utf8FromWindows1252(text))) {
-    fs::path found = path / name;
-    if constexpr (sizeof(fs::path::value_type) == sizeof(char)) {
-      std::error_code error;
-      const fs::path bytes = path / ExactWindows1252FromUtf8(Utf8Of(name)).value_or(std::string());
-      if (bytes != found && !fs::exists(found, error) && fs::exists(bytes, error))
-        found = bytes;
-    }
-    path = std::move(found);
-  }
+  for (const fs::path &name : FromUtf8(Utf8FromWindows1252(text)))
+    path = NamedIn(path, name);
   return path;
 }
 

@@ -44,9 +44,8 @@ std::string Named(const std::array<ValueLists::TextValue, Count> &values, int wi
 
 template <std::size_t Count>
 std::string Listed(const std::array<std::string_view, Count> &texts, int wire) {
-  return wire >= 0 && static_cast<std::size_t>(wire) < Count
-             ? std::string(texts[static_cast<std::size_t>(wire)])
-             : IntegerText(wire);
+  const auto place = static_cast<std::size_t>(wire); // behind every list for a negative one
+  return place < Count ? std::string(texts[place]) : IntegerText(wire);
 }
 
 std::string SignedText(int wire) {
@@ -58,6 +57,11 @@ std::string AllocationText(int wire) {
   constexpr int unisonoStep = 16;
   return std::string(wire % unisonoStep == 0 ? "Poly" : "Mono") + ", unisono " +
          Listed(ValueLists::UnisonoModeTexts, wire / unisonoStep);
+}
+
+std::string CharacterText(int wire) {
+  constexpr int firstVisible = 32;
+  return wire < firstVisible ? IntegerText(wire) : std::string("'") + static_cast<char>(wire) + "'";
 }
 
 } // namespace
@@ -83,8 +87,6 @@ const ControllerRow *FindController(int controller) {
 std::string DisplayText(Display display, int wire) {
   using namespace ValueLists;
   switch (display) {
-  case Display::Wire:
-    return IntegerText(wire);
   case Display::Signed:
     return SignedText(wire);
   case Display::Octave:
@@ -109,13 +111,11 @@ std::string DisplayText(Display display, int wire) {
     return AllocationText(wire);
   case Display::Routing:
     return wire == 0 ? "parallel" : "serial";
-  case Display::Character: {
-    constexpr int firstVisible = 32;
-    return wire < firstVisible ? IntegerText(wire)
-                               : std::string("'") + static_cast<char>(wire) + "'";
+  case Display::Character:
+    return CharacterText(wire);
+  default:
+    return IntegerText(wire);
   }
-  }
-  return IntegerText(wire);
 }
 
 } // namespace Tessoro

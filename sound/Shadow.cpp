@@ -5,12 +5,10 @@
 
 namespace Tessoro {
 
-void Shadow::SetNumber(double number) {
-  content = kind == Kind::Integer16 ? RoundInteger(number) : number;
-}
+void Shadow::SetNumber(double number) { content = isInteger16 ? RoundInteger(number) : number; }
 
 void Shadow::SetText(const std::string &text, char decimalSign) {
-  if (kind == Kind::Integer16)
+  if (isInteger16)
     content = static_cast<double>(StrictInteger(text, decimalSign));
   else
     content = text;

@@ -3,7 +3,6 @@
 
 #include "surface/Property.hpp"
 
-#include <cstdint>
 #include <string>
 
 namespace Tessoro {
@@ -12,16 +11,14 @@ namespace Tessoro {
 // number at all times, 0 at first.
 class Shadow {
 public:
-  enum class Kind : std::uint8_t { Number, Integer16 };
-
-  Shadow() = default;
-  explicit Shadow(Kind shadowKind) : kind(shadowKind) {
-    if (kind == Kind::Integer16)
-      content = 0.0;
+  static Shadow Integer16() {
+    Shadow shadow;
+    shadow.isInteger16 = true;
+    shadow.content = 0.0;
+    return shadow;
   }
 
   const Value &Content() const { return content; }
-  bool HoldsText() const { return std::holds_alternative<std::string>(content); }
 
   // A 16-bit shadow rounds, ties to even, and fails with 6 beyond its range.
   void SetNumber(double number);
@@ -39,7 +36,7 @@ public:
   std::string Text() const;
 
 private:
-  Kind kind = Kind::Number;
+  bool isInteger16 = false;
   Value content;
 };
 

@@ -34,7 +34,7 @@ public:
   // The numbers that are 16-bit.
   explicit NumberedShadows(std::initializer_list<int> integers) {
     for (const int number : integers)
-      (*this)[number] = Shadow(Shadow::Kind::Integer16);
+      (*this)[number] = Shadow::Integer16();
   }
   Shadow &operator[](int number) { return shadows.at(static_cast<std::size_t>(number - First)); }
   const Shadow &operator[](int number) const {
@@ -55,7 +55,7 @@ struct EnvelopeShadow {
   Shadow attack;
   Shadow decay;
   Shadow sustain;
-  Shadow release{Shadow::Kind::Integer16};
+  Shadow release = Shadow::Integer16();
 };
 
 struct SoundState {
@@ -118,11 +118,11 @@ struct SoundState {
   Shadow Env3Attack;
   Shadow Env3Decay;
   Shadow Env3Sustain;
-  Shadow Env3Release{Shadow::Kind::Integer16};
+  Shadow Env3Release = Shadow::Integer16();
   Shadow Env4Attack;
   Shadow Env4Decay;
   Shadow Env4Sustain;
-  Shadow Env4Release{Shadow::Kind::Integer16};
+  Shadow Env4Release = Shadow::Integer16();
 
   // Every shadow by name, an index in brackets behind it where it has one.
   PropertyEntries Shadows();

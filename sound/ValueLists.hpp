@@ -70,7 +70,7 @@ inline constexpr std::array<TextValue, 14> ModSourceValues{{
 
 // The texts of such a table, in its order.
 template <std::size_t Count>
-constexpr std::array<std::string_view, Count> TextsOf(const std::array<TextValue, Count> &values) {
+consteval std::array<std::string_view, Count> TextsOf(const std::array<TextValue, Count> &values) {
   std::array<std::string_view, Count> texts;
   for (std::size_t i = 0; i < Count; ++i)
     texts[i] = values[i].text;

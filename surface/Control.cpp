@@ -57,11 +57,9 @@ void Control::Tell(Property property) { App().Display().PropertyChanged(*this, p
 
 PropertyEntry TruthProperty(std::string_view name, std::function<bool()> get,
                             std::function<void(bool)> set, bool listed) {
-  PropertyEntry entry{std::string(name), listed, [get = std::move(get)] { return Value(get()); },
-                      nullptr, ValueKind::Truth};
-  if (set)
-    entry.set = [set = std::move(set)](const Value &value) { set(std::get<bool>(value)); };
-  return entry;
+  return {std::string(name), listed, [get = std::move(get)] { return Value(get()); },
+          [set = std::move(set)](const Value &value) { set(std::get<bool>(value)); },
+          ValueKind::Truth};
 }
 
 PropertyEntry NumberProperty(std::string_view name, std::function<double()> get,

@@ -45,7 +45,7 @@ enum class Reach : std::uint8_t { Done, Unloaded, Hidden, Disabled };
 // A colour as one number: red + 256 * green + 65536 * blue.
 using Color = std::uint32_t;
 
-constexpr Color Rgb(unsigned red, unsigned green, unsigned blue) {
+consteval Color Rgb(unsigned red, unsigned green, unsigned blue) {
   return red + 256 * green + 65536 * blue;
 }
 

@@ -236,25 +236,23 @@ void EnvelopeSection::AttachPresets() {
 // Attack pulls away to the left of the fixed peak, decay and release run to the right.
 void EnvelopeSection::MoveLines(const Panel &panel, Stage stage, double value) {
   const double time = 6 * value;
+  const auto decayEnd = static_cast<float>(panel.decayBase + time);
+  const auto height = static_cast<float>(panel.sustainBase + 200 - 3 * value);
   switch (stage) {
   case Stage::Attack:
     panel.attack.SetX1(static_cast<float>(panel.attackBase - time));
     break;
-  case Stage::Decay: {
-    const auto x = static_cast<float>(panel.decayBase + time);
-    panel.decay.SetX2(x);
-    panel.sustain.SetX1(x);
+  case Stage::Decay:
+    panel.decay.SetX2(decayEnd);
+    panel.sustain.SetX1(decayEnd);
     break;
-  }
-  case Stage::Sustain: {
-    const auto y = static_cast<float>(panel.sustainBase + 200 - 3 * value);
-    panel.sustain.SetY1(y);
-    panel.sustain.SetY2(y);
-    panel.decay.SetY2(y);
-    panel.release.SetY1(y);
+  case Stage::Sustain:
+    panel.sustain.SetY1(height);
+    panel.sustain.SetY2(height);
+    panel.decay.SetY2(height);
+    panel.release.SetY1(height);
     break;
-  }
-  case Stage::Release:
+  default: // the release
     panel.release.SetX2(static_cast<float>(panel.releaseBase + time));
     break;
   }

@@ -15,8 +15,7 @@ void AttachLitCheckBoxes(std::span<const LitCheckBoxRow> rows) {
       const bool checked = row.box.Value() == 1;
       ShowLit(row.box, checked);
       row.box.App().Module1.SendSoundParam(row.parameter, checked ? 1 : 0);
-      if (row.store)
-        row.store(row.box.Value());
+      row.store(row.box.Value());
     };
 }
 

@@ -15,7 +15,7 @@ struct LitCheckBoxRow {
   CheckBox &box;
   int parameter;
   // Runs behind the send, with the value of the box.
-  std::function<void(int value)> store = {};
+  std::function<void(int value)> store;
 };
 
 void AttachLitCheckBoxes(std::span<const LitCheckBoxRow> rows);

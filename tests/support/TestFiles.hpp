@@ -19,7 +19,7 @@ public:
   bool FolderExists(const std::string &folder) const override;
   std::vector<std::string> Drives() const override { return drives; }
   std::string WorkingDirectory() const override { return workingDirectory; }
-  char Separator() const override { return '/'; }
+  char Separator() const override { return separator; }
 
   // Full name to content.
   std::map<std::string, std::string> contents;
@@ -27,6 +27,7 @@ public:
   std::map<std::string, std::vector<std::string>> folders{{"/", {}}};
   std::vector<std::string> drives{"/"};
   std::string workingDirectory = "/";
+  char separator = '/';
   // The failures of the next openings; 0 for none.
   int readingFailsWith = 0;
   int writingFailsWith = 0;

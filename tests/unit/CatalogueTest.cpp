@@ -297,6 +297,7 @@ TEST(Catalogue, TellsWireValuesAsTheControlsShowThem) {
       {Display::ModSource, 13, "Pressure"},
       {Display::FmSource, 11, "11 Env4"},
       {Display::FmSource, 12, "12"},
+      {Display::FmSource, -1, "-1"},
       {Display::SubFrequency, 31, "32"},
       {Display::GlideMode, 3, "Fingered Gliss."},
       {Display::LfoShape, 5, "05 S&H"},

@@ -119,10 +119,22 @@ TEST_F(ComboBoxTest, ALoadTakesAwayTheAddedItemsAndTheSelection) {
   EXPECT_THAT(events, IsEmpty());
 }
 
+TEST_F(ComboBoxTest, OneDeclaredDisabledBlendsIntoTheForm) {
+  EXPECT_EQ(form.Combo.BackColor(), Colors::Navy);
+  EXPECT_EQ(form.ClosedCombo.BackColor(), Colors::Amber);
+  form.ClosedCombo.SetEnabled(true);
+  EXPECT_EQ(form.ClosedCombo.BackColor(), Colors::Amber);
+}
+
+TEST_F(ComboBoxTest, ADisabledListTakesNoKey) {
+  EXPECT_EQ(form.ClosedCombo.UserType("ab"), Reach::Disabled);
+  EXPECT_EQ(form.ClosedCombo.Text(), "?");
+}
+
 TEST_F(ComboBoxTest, TypingStopsWhereTheListGoesOutOfReach) {
   form.Combo.SetText("");
   form.Combo.onChange = [this] { form.Combo.SetEnabled(form.Combo.Text().size() < 2); };
-  EXPECT_EQ(form.Combo.UserType("abc"), Reach::Disabled);
+  EXPECT_EQ(form.Combo.UserType("abcd"), Reach::Disabled);
   EXPECT_EQ(form.Combo.Text(), "ab");
 }
 

@@ -7,7 +7,9 @@ using testing::ElementsAre;
 
 using LabelTest = ControlFixture;
 using LineTest = ControlFixture;
+using ShapeTest = ControlFixture;
 using ImageTest = ControlFixture;
+using NoteKeyTest = ControlFixture;
 using FrameTest = ControlFixture;
 
 TEST_F(LabelTest, ADifferentCaptionRaisesChange) {
@@ -34,6 +36,18 @@ TEST_F(LabelTest, ALoadTakesCaptionAndWidthBack) {
   EXPECT_EQ(form.Text.Width(), 735);
 }
 
+TEST_F(LabelTest, TellsAFaceHowItsDeclarationSetsIt) {
+  EXPECT_EQ(form.Value.Style(), LabelStyle::Readout);
+  EXPECT_EQ(form.Value.Align(), LabelAlign::Right);
+  EXPECT_EQ(form.Text.Style(), LabelStyle::Plain);
+  EXPECT_EQ(form.Text.Align(), LabelAlign::Left);
+}
+
+TEST_F(LineTest, KeepsTheColorOfItsDeclarationWhereverItMoves) {
+  form.Slope.SetX1(1.5F);
+  EXPECT_EQ(form.Slope.LineColor(), Colors::Navy);
+}
+
 TEST_F(LineTest, EachEndMovesByItself) {
   form.Slope.SetX1(1.5F);
   form.Slope.SetY2(-3);
@@ -52,6 +66,16 @@ TEST_F(LineTest, ALoadTakesItBackToItsDesign) {
   form.Unload();
   form.Load();
   EXPECT_EQ(form.Slope.Ends(), (LineEnds{10, 20, 30, 40}));
+}
+
+TEST_F(ShapeTest, TellsAFaceWhatToDraw) { EXPECT_EQ(form.Plate.Kind(), ShapeKind::Inset); }
+
+TEST_F(NoteKeyTest, TellsAFaceWhatStandsOnIt) { EXPECT_EQ(form.Key.Caption(), "C"); }
+
+TEST_F(ImageTest, TellsAFaceItsPictureAndTheKeyThatClicksIt) {
+  EXPECT_EQ(form.Knob.Picture(), "knob");
+  EXPECT_EQ(form.Knob.AccessKey(), "Alt+K");
+  EXPECT_EQ(form.Ghost.AccessKey(), "");
 }
 
 TEST_F(ImageTest, PressesMovesAndReleasesArriveWithTheirPlace) {

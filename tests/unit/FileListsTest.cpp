@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Tessoro {
 namespace {
 
@@ -42,6 +44,17 @@ protected:
     return 0;
   }
 
+  static PropertyEntry Named(Control &control, std::string_view name) {
+    const PropertyEntries entries = control.Properties();
+    return *std::ranges::find(entries, name, &PropertyEntry::name);
+  }
+  static std::string Read(Control &control, std::string_view name) {
+    return std::get<std::string>(Named(control, name).get());
+  }
+  static void Write(Control &control, std::string_view name, const std::string &text) {
+    Named(control, name).set(text);
+  }
+
   TestRun run;
   FileForm form{run.app};
 };
@@ -51,6 +64,52 @@ TEST_F(FileListsTest, AllBeginInTheWorkingDirectory) {
   EXPECT_EQ(form.Dir1.Path(), "/home/ann");
   EXPECT_EQ(form.File1.Path(), "/home/ann");
   EXPECT_EQ(form.File1.FileName(), "");
+}
+
+TEST_F(FileListsTest, TheDrivesAreThoseOfTheMachine) {
+  EXPECT_THAT(form.Drive1.List(), ElementsAre("/", "/media/stick"));
+}
+
+TEST_F(FileListsTest, OfDrivesInsideEachOtherTheInnermostCountsWhereverItIsListed) {
+  run.files.drives = {"/media/stick", "/"};
+  run.files.workingDirectory = "/media/stick";
+  FileForm other{run.app};
+  other.Show();
+  EXPECT_EQ(other.Drive1.Drive(), "/media/stick");
+  other.Drive1.SetDrive("/home");
+  EXPECT_EQ(other.Drive1.Drive(), "/");
+  other.Drive1.SetDrive("/media/stick/sounds");
+  EXPECT_EQ(other.Drive1.Drive(), "/media/stick");
+}
+
+TEST_F(FileListsTest, DriveAndPathsAreReadAndWrittenByName) {
+  Write(form.Drive1, "Drive", "/media/stick/sounds");
+  EXPECT_EQ(Read(form.Drive1, "Drive"), "/media/stick");
+  Write(form.Dir1, "Path", "/home/ann/a/");
+  EXPECT_EQ(Read(form.Dir1, "Path"), "/home/ann/a");
+  Write(form.File1, "Path", "/home/ann/a");
+  EXPECT_EQ(Read(form.File1, "Path"), "/home/ann/a");
+}
+
+TEST_F(FileListsTest, ARelativeFolderIsItsOwnWayDown) {
+  run.files.folders["sounds"] = {"old"};
+  form.Dir1.SetPath("sounds");
+  EXPECT_THAT(form.Dir1.List(), ElementsAre("sounds", "sounds/old"));
+  EXPECT_EQ(form.Dir1.AncestorCount(), 1U);
+}
+
+TEST_F(FileListsTest, TheRootOfADriveWithALetterKeepsItsSeparator) {
+  run.files.separator = '\\';
+  run.files.drives = {"C:", "D:"};
+  run.files.folders = {{"C:\\", {"Sounds"}}, {"C:\\Sounds", {"Old"}}};
+  run.files.workingDirectory = "C:\\Sounds";
+  FileForm other{run.app};
+  other.Show();
+  EXPECT_EQ(other.Drive1.Drive(), "C:");
+  EXPECT_THAT(other.Dir1.List(), ElementsAre("C:\\", "C:\\Sounds", "C:\\Sounds\\Old"));
+  other.Dir1.SetPath("C:\\");
+  EXPECT_EQ(other.Dir1.Path(), "C:\\");
+  EXPECT_THAT(other.Dir1.List(), ElementsAre("C:\\", "C:\\Sounds"));
 }
 
 TEST_F(FileListsTest, AFolderListShowsTheWayDownAndTheSubfolders) {

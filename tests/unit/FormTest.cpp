@@ -158,6 +158,19 @@ TEST_F(FormTest, NothingHappensAfterTheEnd) {
   EXPECT_THAT(run.screen.ends, ElementsAre(ProgramEnd::Quit));
 }
 
+TEST_F(FormTest, TheClickThatFailsIsTheLastOne) {
+  int clicks = 0;
+  form.onClick = [&clicks] {
+    ++clicks;
+    throw Failure(FailureCode::TypeMismatch);
+  };
+  form.Show();
+  form.UserClick();
+  form.UserClick();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_THAT(run.screen.ends, ElementsAre(ProgramEnd::Failure));
+}
+
 TEST_F(FormTest, QuittingRunsNoUnload) {
   int unloads = 0;
   form.onUnload = [&unloads] { ++unloads; };

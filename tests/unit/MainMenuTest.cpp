@@ -79,5 +79,15 @@ TEST(MainMenu, ThePointerIsAnHourglassWhileThePortsFormLoads) {
             (std::vector<MousePointer>{MousePointer::Hourglass, MousePointer::Default}));
 }
 
+// One that is composed with an accent, for instance.
+TEST(MainMenu, AboutGoesAlsoAtACharacterWithoutAKeyOfItsOwn) {
+  TestRun run;
+  run.StartWithOpenPorts();
+  run.app.F_Tessoro.Menu_About.UserClick();
+  EXPECT_TRUE(run.app.F_About.IsShown());
+  EXPECT_EQ(run.app.F_About.UserKeyPress(0xE9), Reach::Done);
+  EXPECT_FALSE(run.app.F_About.IsLoaded());
+}
+
 } // namespace
 } // namespace Tessoro

@@ -321,6 +321,13 @@ TEST_F(SettingsFileTest, QuittingByTheMenuWritesNothingAndClosesNothing) {
   EXPECT_THAT(run.screen.ends, ElementsAre(ProgramEnd::Quit));
 }
 
+TEST_F(SettingsFileTest, IsWrittenByTheUnloadAloneWhateverTheFormIsAsked) {
+  StartWith(Lines().Text());
+  Globals().KnobFineChange = 5;
+  run.app.F_Tessoro.WriteINI();
+  EXPECT_EQ(run.files.contents[SettingsName], Lines().Text());
+}
+
 TEST_F(SettingsFileTest, StandsBesideTheProgram) {
   EXPECT_EQ(SettingsPath(run.app), "/editor/Tessoro.ini");
 }

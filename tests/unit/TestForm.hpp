@@ -18,21 +18,24 @@ public:
   static constexpr std::array<std::string_view, 3> Fruits{"apple", "pear", "plum"};
 
   // clang-format off
-  TextBox Box          {*this, "Box",      {0, 0, 480, 300}, {.text = "?", .toolTip = "a box"}};
+  TextBox Box          {*this, "Box",      {0, 0, 480, 300}, {.text = "?", .toolTip = "a box", .says = "Box of the form"}};
   TextBox ShortBox     {*this, "ShortBox", {0, 0, 480, 300}, {.text = "", .maxLength = 4}};
   TextBox ClosedBox    {*this, "ClosedBox",{0, 0, 480, 300}, {.enabled = false}};
   TextBox NoWidthBox   {*this, "NoWidthBox", {0, 0, 0, 300}};
   ComboBox Combo       {*this, "Combo",    {0, 0, 900, 300}, {.items = Fruits}};
+  ComboBox ClosedCombo {*this, "ClosedCombo", {0, 0, 900, 300}, {.items = Fruits, .enabled = false}};
   HScrollBar Bar       {*this, "Bar",      {0, 0, 900, 300}, {.min = -12, .max = 12}};
   VScrollBar Upright   {*this, "Upright",  {0, 0, 300, 900}, {.min = 127, .max = 0}};
   HScrollBar HighBar   {*this, "HighBar",  {0, 0, 900, 300}, {.min = 1, .max = 5}};
   CheckBox Check       {*this, "Check",    {0, 0, 300, 300}, {.caption = "Sync", .backColor = Colors::DimGreen}};
   CommandButton Button {*this, "Button",   {0, 0, 300, 300}, {.caption = "&Press"}};
   Label Text           {*this, "Text",     {0, 0, 735, 240}, {.caption = "OSC 2"}};
-  Image Knob           {*this, "Knob",     {0, 0, 600, 660}, {.picture = "knob"}};
+  Label Value          {*this, "Value",    {0, 0, 735, 240}, {.style = LabelStyle::Readout, .align = LabelAlign::Right}};
+  Image Knob           {*this, "Knob",     {0, 0, 600, 660}, {.picture = "knob", .accessKey = "Alt+K"}};
   Image Ghost          {*this, "Ghost",    {0, 0, 600, 660}, {.picture = "knob", .visible = false}};
   NoteKey Key          {*this, "Key",      {0, 0, 300, 900}, {.caption = "C"}};
   Line Slope           {*this, "Slope",    {10, 20, 30, 40}, Colors::Navy};
+  Shape Plate          {*this, "Plate",    {0, 0, 300, 300}, ShapeKind::Inset};
   Frame Ground         {*this, "Ground",   {0, 0, 300, 300}};
   Timer Ticker         {*this, "Ticker",   {.interval = 500}};
   Timer Sleeper        {*this, "Sleeper",  {.interval = 500, .enabled = false}};

@@ -92,6 +92,12 @@ TEST_F(TextBoxTest, AShortBoxCutsWhatCodeAndUserGiveIt) {
   EXPECT_EQ(form.ShortBox.Text(), "abcd");
 }
 
+TEST_F(TextBoxTest, TellsAFaceHowMuchItTakesAndWhatAScreenReaderSays) {
+  EXPECT_EQ(form.ShortBox.MaxLength(), 4U);
+  EXPECT_EQ(form.Box.MaxLength(), 0U) << "no limit";
+  EXPECT_EQ(form.Box.Says(), "Box of the form");
+}
+
 TEST_F(TextBoxTest, ATextThatIsTheSameWhenCutRaisesNothing) {
   form.ShortBox.SetText("1234");
   int changes = 0;

@@ -87,6 +87,16 @@ TEST_F(TimerTest, StopsWithItsFormAndBeginsAnewWithIt) {
   EXPECT_EQ(ticks, 1);
 }
 
+TEST_F(TimerTest, ALoadTakesItsIntervalBack) {
+  form.Show();
+  form.Ticker.SetInterval(50);
+  EXPECT_EQ(form.Ticker.Interval(), 50);
+  run.app.F_Midi.Load(); // so that the program goes on
+  form.Unload();
+  form.Load();
+  EXPECT_EQ(form.Ticker.Interval(), 500);
+}
+
 TEST_F(TimerTest, StartingOneThatRunsDoesNotBeginAnew) {
   form.Show();
   run.clock.Pass(400);

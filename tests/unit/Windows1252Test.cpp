@@ -49,6 +49,8 @@ TEST(Windows1252, WhatCannotBeToldBecomesAQuestionMarkWhereATextIsWantedAllTheSa
   EXPECT_EQ(Windows1252FromUtf8("B\xC3\xA4r"), "B\xE4r");
   EXPECT_EQ(Windows1252FromUtf8("a\xF0\x9F\x8E\xB9z"), "a?z");
   EXPECT_EQ(Windows1252FromUtf8("a\xE4z"), "a?z");
+  // Four bytes that are no character, as it would stand behind the last one that there is.
+  EXPECT_EQ(Windows1252FromUtf8("a\xF4\x90\x80\x80z"), "a????z");
 }
 
 } // namespace
