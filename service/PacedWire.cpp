@@ -49,14 +49,14 @@ MidiResult PacedWire::Send(MidiBytes bytes) {
   if (bytes.size() > longestMessage) {
     return MidiResultCode::InvalidParameter;
   }
+  // Taken before the thread gets this one, which it may refuse in its turn.
+  const bool tellsOfRefusal =
+      wasRefused.load(std::memory_order_relaxed) && wasRefused.exchange(false);
   if (!editorQueue.Put(bytes)) {
     return MidiResultCode::NotReady;
   }
   doorbell.RingIfAwaited();
-  if (wasRefused.load(std::memory_order_relaxed) && wasRefused.exchange(false)) {
-    return MidiResultCode::NotReady;
-  }
-  return MidiResultCode::Success;
+  return tellsOfRefusal ? MidiResultCode::NotReady : MidiResultCode::Success;
 }
 
 void PacedWire::SendThru(MidiBytes bytes) {
