@@ -105,9 +105,9 @@ QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QS
   return wished;
 }
 
-void StandBesideOthers(QWidget &window) { StandBesideOthers(window, window.size()); }
+bool StandBesideOthers(QWidget &window) { return StandBesideOthers(window, window.size()); }
 
-void StandBesideOthers(QWidget &window, const QSize &least) {
+bool StandBesideOthers(QWidget &window, const QSize &least) {
   const std::vector<QWidget *> others = WindowsBut(window);
   std::vector<QRect> frames;
   frames.reserve(others.size());
@@ -120,7 +120,9 @@ void StandBesideOthers(QWidget &window, const QSize &least) {
   const QRect room = neighbour.screen()->availableGeometry();
   const QSize size = SizeBeside(frames, window.size() + frame, least + frame, room);
   window.resize(size - frame);
-  window.move(PlaceBeside(frames, size, room));
+  const QPoint corner = PlaceBeside(frames, size, room);
+  window.move(corner);
+  return CoveredOf(frames, QRect(corner, size)) == 0;
 }
 
 } // namespace Tessoro::Desk

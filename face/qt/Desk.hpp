@@ -34,9 +34,9 @@ QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QR
 QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QSize &least,
                  const QRect &room);
 // Moves a window that is still to come out of the way of all that the program shows. The one that
-// is worked in is the first to keep off.
-void StandBesideOthers(QWidget &window);
+// is worked in is the first to keep off. False where it covers some of them all the same.
+bool StandBesideOthers(QWidget &window);
 // One that may be made smaller for that.
-void StandBesideOthers(QWidget &window, const QSize &least);
+bool StandBesideOthers(QWidget &window, const QSize &least);
 
 } // namespace Tessoro::Desk

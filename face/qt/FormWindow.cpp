@@ -142,6 +142,20 @@ void FormWindow::ZoomByKey(double newZoom) {
        std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
 }
 
+// Letters that are larger than usual aren't worth covering another form.
+void FormWindow::OpenBesideOthers() {
+  const double wished = zoom;
+  for (double each = wished; each >= 1; each = Desk::NextZoom(each, -1)) {
+    SetZoom(each);
+    if (Desk::StandBesideOthers(*this)) {
+      openingZoom = each;
+      return;
+    }
+  }
+  SetZoom(wished);
+  Desk::StandBesideOthers(*this);
+}
+
 QSize FormWindow::RoomOfScreen() const {
   return screen()->availableGeometry().marginsRemoved(Desk::UsualFrame).size();
 }

@@ -1,6 +1,5 @@
 #include "face/qt/QtScreen.hpp"
 
-#include "face/qt/Desk.hpp"
 #include "face/qt/FormWindow.hpp"
 #include "face/qt/MessageBox.hpp"
 #include "face/qt/Text.hpp"
@@ -48,7 +47,7 @@ void QtScreen::FormLoading(Form &form) {
 void QtScreen::FormShown(Form &form) {
   FormWindow *window = WindowOf(form);
   if (!window->isVisible() && window != windows.front())
-    Desk::StandBesideOthers(*window);
+    window->OpenBesideOthers();
   window->ComeToFront();
 }
 

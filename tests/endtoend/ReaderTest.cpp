@@ -167,11 +167,20 @@ private:
     return {};
   }
 
+  bool IsChecked(const Reference &object) const {
+    constexpr unsigned checked = 1U << 4;
+    const auto states =
+        qdbus_cast<QList<uint>>(Call(object, Accessible, QStringLiteral("GetState")));
+    return !states.isEmpty() && (states.front() & checked) != 0;
+  }
+
   void Read(const Reference &object, std::vector<Heard> &heard) const {
-    heard.push_back(
-        {Call(object, Accessible, QStringLiteral("GetRoleName")).toString().toStdString(),
-         PropertyOf(object, Accessible, QStringLiteral("Name")).toString().toStdString(),
-         ValueOf(object)});
+    Heard each{Call(object, Accessible, QStringLiteral("GetRoleName")).toString().toStdString(),
+               PropertyOf(object, Accessible, QStringLiteral("Name")).toString().toStdString(),
+               ValueOf(object)};
+    if (each.role == "check box")
+      each.value = IsChecked(object) ? "checked" : "not checked";
+    heard.push_back(each);
     for (const Reference &child : ChildrenOf(object))
       Read(child, heard);
   }
@@ -232,6 +241,7 @@ TEST_F(ReaderTest, EveryControlHasANameARoleAndItsValue) {
         << "a nameless " << each.role << " with the value " << each.value;
     EXPECT_FALSE(each.role.empty() || each.role == "unknown" || each.role == "invalid")
         << each.name;
+    EXPECT_FALSE(each.role == "scroll bar" && each.value.empty()) << each.name;
   }
   EXPECT_GT(counts["text"], 70);
   EXPECT_GT(counts["combo box"], 20);
@@ -244,7 +254,8 @@ TEST_F(ReaderTest, EveryControlHasANameARoleAndItsValue) {
   EXPECT_EQ(sounds("Filter 1 cutoff"), "text: 127");
   EXPECT_EQ(sounds("Filter 1 type"), "combo box: \\_ Lowpass 24 dB");
   EXPECT_EQ(sounds("OSC 1 filter balance bar"), "scroll bar: -64");
-  EXPECT_EQ(Named("Noise mute").role, "check box");
+  EXPECT_EQ(sounds("OSC 1 mute"), "check box: not checked");
+  EXPECT_EQ(sounds("Noise mute"), "check box: checked");
   EXPECT_EQ(Named("Panic").role, "push button");
   EXPECT_EQ(Named("Note C3").role, "push button");
   EXPECT_EQ(Named("Filters in parallel").role, "push button");

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -198,6 +199,23 @@ TEST_F(ZoomTest, AFormOpensBesideTheOthers) {
   EXPECT_FALSE(first.intersects(window->frameGeometry()));
   EXPECT_FALSE(second.intersects(window->frameGeometry()));
   EXPECT_FALSE(first.intersects(second));
+}
+
+TEST_F(ZoomTest, AFormWithoutRoomBesideTheOthersOpensSmaller) {
+  WindowOf(app.F_Tessoro).hide();
+  window->move(0, 0);
+  const QSize room = window->screen()->availableGeometry().size();
+  const QSize preferences(304, 180);
+  double zoom = 1;
+  while ((room - sizeAtOne * zoom).width() > preferences.width() * zoom ||
+         (room - sizeAtOne * zoom).height() > preferences.height() * zoom)
+    zoom += 0.25;
+  window->SetZoom(zoom);
+  app.F_Preferences.Show();
+  FormWindow &form = WindowOf(app.F_Preferences);
+  EXPECT_FALSE(form.frameGeometry().intersects(window->frameGeometry()));
+  EXPECT_LT(form.Zoom(), zoom);
+  EXPECT_GE(form.Zoom(), 1);
 }
 
 TEST_F(ZoomTest, PicturesAndLettersAreDrawnAnewAtEachZoom) {
