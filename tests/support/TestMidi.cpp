@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdio>
 #include <initializer_list>
-#include <ranges>
 
 namespace Tessoro {
 
@@ -43,8 +42,8 @@ std::string NotedMessage(std::span<const std::uint8_t> bytes) {
   if (bytes.front() == 0xF0)
     return Bytes(bytes);
   std::uint32_t word = 0;
-  for (const std::uint8_t byte : std::ranges::reverse_view(bytes))
-    word = word << 8 | byte;
+  for (std::size_t i = 0; i < bytes.size(); ++i)
+    word |= std::uint32_t{bytes[i]} << 8 * i;
   return Word(word);
 }
 
