@@ -7,7 +7,7 @@ namespace Tessoro {
 namespace {
 
 // In pixels. Below it, the columns of its lists would be cut too much.
-constexpr QSize LeastSize(900, 380);
+constexpr QSize LeastSize(740, 380);
 
 } // namespace
 

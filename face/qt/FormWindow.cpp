@@ -142,6 +142,10 @@ void FormWindow::ZoomByKey(double newZoom) {
        std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
 }
 
+void FormWindow::OpenFirst() {
+  move(Desk::PlaceOfFirst(size().grownBy(Desk::UsualFrame), screen()->availableGeometry()));
+}
+
 // Letters that are larger than usual aren't worth covering another form.
 void FormWindow::OpenBesideOthers() {
   const double wished = zoom;

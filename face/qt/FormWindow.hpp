@@ -36,6 +36,8 @@ public:
   // All sizes are those of the design times the zoom.
   double Zoom() const { return zoom; }
   void SetZoom(double newZoom);
+  // Places the first window, which is still to come.
+  void OpenFirst();
   // Places a window that is still to come. Where only a smaller one has room beside the others, it
   // is made smaller, though not below a zoom of 1.
   void OpenBesideOthers();

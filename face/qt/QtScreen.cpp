@@ -42,12 +42,15 @@ void QtScreen::FormLoading(Form &form) {
   windows.push_back(new FormWindow(form, {.gate = gate, .pictures = pictures}, opener));
 }
 
-// The first window stands where the system likes, and all others keep out of its way; it may still
-// be loading when they come up.
+// The others keep out of the way of the first, which may still be loading when they come up.
 void QtScreen::FormShown(Form &form) {
   FormWindow *window = WindowOf(form);
-  if (!window->isVisible() && window != windows.front())
-    window->OpenBesideOthers();
+  if (!window->isVisible()) {
+    if (window == windows.front())
+      window->OpenFirst();
+    else
+      window->OpenBesideOthers();
+  }
   window->ComeToFront();
 }
 

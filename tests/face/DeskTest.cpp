@@ -60,6 +60,14 @@ TEST(Desk, ASecondFormKeepsOffTheFirst) {
   EXPECT_FALSE(second.intersects(first));
 }
 
+TEST(Desk, TheMainWindowLeavesTheRoomBesideItInOnePiece) {
+  constexpr QSize main(811, 593);
+  const QRect form(Desk::PlaceOfFirst(main, Screen), main);
+  EXPECT_TRUE(Screen.contains(form));
+  EXPECT_LT(form.left() - Screen.left(), 10);
+  EXPECT_EQ(Desk::PlaceOfFirst({4000, 3000}, Screen), Screen.topLeft());
+}
+
 TEST(Desk, WhatComesBeforeTheMainWindowStandsAtTheRight) {
   const QRect form(Desk::PlaceBeside({}, {400, 200}, Screen), QSize(400, 200));
   EXPECT_EQ(form.right(), Screen.right());
@@ -68,7 +76,7 @@ TEST(Desk, WhatComesBeforeTheMainWindowStandsAtTheRight) {
 
 // As the window of the built-in microQ.
 const QSize Wished(1080, 560);
-const QSize Least(900, 380);
+const QSize Least(740, 380);
 
 TEST(Desk, WhatHasRoomBesideTheOthersKeepsItsSize) {
   EXPECT_EQ(Desk::SizeBeside({}, Wished, Least, Screen), Wished);
