@@ -149,15 +149,17 @@ void FormWindow::OpenFirst() {
 // Letters that are larger than usual aren't worth covering another form.
 void FormWindow::OpenBesideOthers() {
   const double wished = zoom;
-  for (double each = wished; each >= 1; each = Desk::NextZoom(each, -1)) {
-    SetZoom(each);
-    if (Desk::StandBesideOthers(*this)) {
-      openingZoom = each;
-      return;
-    }
+  bool coversNothing = Desk::StandBesideOthers(*this);
+  while (!coversNothing && Desk::NextZoom(zoom, -1) >= 1) {
+    SetZoom(Desk::NextZoom(zoom, -1));
+    coversNothing = Desk::StandBesideOthers(*this);
   }
-  SetZoom(wished);
-  Desk::StandBesideOthers(*this);
+  if (coversNothing) {
+    openingZoom = zoom;
+  } else {
+    SetZoom(wished);
+    Desk::StandBesideOthers(*this);
+  }
 }
 
 QSize FormWindow::RoomOfScreen() const {
