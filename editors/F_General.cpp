@@ -34,7 +34,7 @@ void F_General::AttachFamilies() {
       // box                family         limits   number  bar                 double click  store
       {TextUnisonoDetune, PlainUnipolar,    0, 127,  59,   nullptr,            {{0}},        StoreWire(PlainUnipolar, globals.UnisonoDetune)},
       {TextRingmodLevel,  PlainUnipolar,    0, 127,  71,   nullptr,            {{0}},        [&globals](const TextBox &box) { globals.RingmodLevel.SetText(box.Text(), '.'); }},
-      {TextRingmodBal,    BipolarWithBar, -64,  63,  72,   &HScrollRingmodBal, {},           [&globals](const TextBox &box) { globals.RingmodBalance = box.Text(); }},
+      {TextRingmodBal,    PlainBipolar,   -64,  63,  72,   &HScrollRingmodBal, {},           [&globals](const TextBox &box) { globals.RingmodBalance = box.Text(); }},
   };
   const KnobRow knobs[] = {
       // knob              box                limits  double click  fine steps raise

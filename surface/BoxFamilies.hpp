@@ -23,11 +23,12 @@ struct BoxFamily {
   MirrorOrder mirrorOrder;
 };
 
+// Any of them may have a bar, named in the row of the box.
 namespace BoxFamilies {
 inline constexpr BoxFamily PlainUnipolar{false, Road::Parameter, MirrorOrder::AfterSend};
+// As PlainUnipolar, but the bar moves before the value goes out.
 inline constexpr BoxFamily Amp{false, Road::Parameter, MirrorOrder::BeforeSend};
 inline constexpr BoxFamily PlainBipolar{true, Road::Parameter, MirrorOrder::AfterSend};
-inline constexpr BoxFamily BipolarWithBar{true, Road::Parameter, MirrorOrder::AfterSend};
 inline constexpr BoxFamily BipolarOnController{true, Road::Controller, MirrorOrder::AfterSend};
 } // namespace BoxFamilies
 

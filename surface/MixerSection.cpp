@@ -53,7 +53,7 @@ MixerSection::MixerSection(Form &owner) : form(owner) {
       {TextOSC1fbalance,  BipolarOnController, -64, 63,  53,   &HScrollOSC1fbalance},
       {TextOSC2fbalance,  BipolarOnController, -64, 63,  57,   &HScrollOSC2fbalance},
       {TextOSC3fbalance,  BipolarOnController, -64, 63,  59,   &HScrollOSC3fbalance},
-      {TextNoisefbalance, BipolarWithBar,      -64, 63,  68,   &HScrollNoisefbalance},
+      {TextNoisefbalance, PlainBipolar,        -64, 63,  68,   &HScrollNoisefbalance},
   };
   // clang-format on
   for (const SourceRow &row : sources) {

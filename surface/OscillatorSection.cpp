@@ -54,9 +54,9 @@ OscillatorSection::OscillatorSection(Form &owner) : form(owner) {
   // clang-format off
   const BoxRow boxes[] = {
       // box               family               limits   number  bar                 double click
-      {TextOSC1semi,      BipolarWithBar,      -12,  12,   2,   &HScrollOSC1semi,   {}},
-      {TextOSC2semi,      BipolarWithBar,      -12,  12,  18,   &HScrollOSC2semi,   {}},
-      {TextOSC3semi,      BipolarWithBar,      -12,  12,  34,   &HScrollOSC3semi,   {}},
+      {TextOSC1semi,      PlainBipolar,        -12,  12,   2,   &HScrollOSC1semi,   {}},
+      {TextOSC2semi,      PlainBipolar,        -12,  12,  18,   &HScrollOSC2semi,   {}},
+      {TextOSC3semi,      PlainBipolar,        -12,  12,  34,   &HScrollOSC3semi,   {}},
       {TextOSC1detune,    BipolarOnController, -64,  63,  29,   &HScrollOSC1detune, SendsItself(0)},
       {TextOSC2detune,    BipolarOnController, -64,  63,  37,   &HScrollOSC2detune, {}},
       {TextOSC3detune,    BipolarOnController, -64,  63,  44,   &HScrollOSC3detune, {}},
