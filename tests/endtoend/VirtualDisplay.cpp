@@ -132,6 +132,10 @@ void VirtualDisplay::DoubleClick(const Spot &spot) const {
 
 void VirtualDisplay::RightClick(const Spot &spot) const { Do(PointingAt(spot) + " click 3"); }
 
+void VirtualDisplay::TurnWheel(const Spot &spot, int notches) const {
+  Do(PointingAt(spot) + " click --repeat " + std::to_string(notches) + " --delay 20 5");
+}
+
 std::string VirtualDisplay::WindowUnderPointer() const {
   return Entry(Do("getmouselocation --shell"), "WINDOW");
 }

@@ -76,6 +76,8 @@ public:
   void Click(const Spot &spot) const;
   void DoubleClick(const Spot &spot) const;
   void RightClick(const Spot &spot) const;
+  // The wheel, towards the user.
+  void TurnWheel(const Spot &spot, int notches) const;
   std::string WindowUnderPointer() const;
 
   // Key names of X, as "1 2 BackSpace alt+f".
