@@ -33,7 +33,7 @@ public:
   Application &App() const { return application; }
   const std::string &Name() const { return ownName; }
   const FormDesign &Design() const { return ownDesign; }
-  // In the order of their declaration, which is also the order of Tab.
+  // In the order of their declaration; the later lies on top. Tab goes by their places on the form.
   const std::vector<Control *> &Controls() const { return controls; }
   Control *FindControl(std::string_view controlName) const;
 

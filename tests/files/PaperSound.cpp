@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 
 namespace Tessoro::Tests {
 
@@ -134,8 +135,15 @@ void PaperSound::Clamp(const std::string &box, const PaperRow &control) {
     SetText(box, control[3]);
 }
 
+const PaperRow &PaperSound::ControlCalled(const std::string &wanted) const {
+  const auto found = controls.find(wanted);
+  if (found == controls.end())
+    throw std::runtime_error(wanted + " has no row in tests/files/controls.txt");
+  return found->second;
+}
+
 void PaperSound::Change(const std::string &box) {
-  const PaperRow &control = controls.at(box);
+  const PaperRow &control = ControlCalled(box);
   const std::string &kind = control[1];
   const std::string &text = texts[box];
   if (kind == "switch") {
@@ -156,7 +164,7 @@ void PaperSound::Change(const std::string &box) {
 }
 
 void PaperSound::SetNumber(const std::string &control, int number) {
-  const PaperRow &row = controls.at(control);
+  const PaperRow &row = ControlCalled(control);
   const std::string &kind = row[1];
   const bool isList = kind == "list";
   const int highest = isList ? std::stoi(row[2]) - 1 : kind == "bar" ? 127 : 1;

@@ -63,6 +63,8 @@ public:
   void SendPaddedText(std::string &text, int firstParameter, std::size_t length);
 
 private:
+  // Throws, with words for who has forgotten its row.
+  const PaperRow &ControlCalled(const std::string &wanted) const;
   void Go(const std::string &road, double value);
   void Change(const std::string &box);
   void Clamp(const std::string &box, const PaperRow &control);
