@@ -118,6 +118,7 @@ void PaperSound::Go(const std::string &road, double value) {
 }
 
 void PaperSound::SetText(const std::string &box, const std::string &text) {
+  ControlCalled(box);
   if (texts.at(box) == text)
     return;
   texts[box] = text;
