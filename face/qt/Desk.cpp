@@ -67,13 +67,9 @@ double NextZoom(double zoom, int direction) {
   return std::max(next * ZoomStep, SmallestZoom);
 }
 
-QPoint PlaceOfFirst(const QSize &size, const QRect &room) {
-  return Within(room, size, {room.left() + Gap, room.top() + (room.height() - size.height()) / 3});
-}
-
 QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QRect &room) {
   if (others.empty())
-    return Within(room, size, {room.right(), PlaceOfFirst(size, room).y()});
+    return Within(room, size, {room.right(), room.top() + (room.height() - size.height()) / 3});
   QPoint best;
   qint64 leastCovered = -1;
   for (const QRect &other : others) {

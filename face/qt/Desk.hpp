@@ -26,9 +26,6 @@ double OpeningZoom(const QSize &sizeAtOne, const QSize &room);
 // The next step of the keys, up or down.
 double NextZoom(double zoom, int direction);
 
-// The top left corner of the first window. In the middle of a large screen it would leave no room
-// beside it that another could use, so it stands at the left.
-QPoint PlaceOfFirst(const QSize &size, const QRect &room);
 // The top left corner of a window beside the others, or where it covers least of them. The first of
 // the others comes first. Without others it stands at the right, for those that are yet to come.
 QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QRect &room);

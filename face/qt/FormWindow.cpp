@@ -142,9 +142,8 @@ void FormWindow::ZoomByKey(double newZoom) {
        std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
 }
 
-void FormWindow::OpenFirst() {
-  move(Desk::PlaceOfFirst(size().grownBy(Desk::UsualFrame), screen()->availableGeometry()));
-}
+// In the middle of a screen it would leave room at all sides, and enough for another at none.
+void FormWindow::OpenFirst() { move(screen()->availableGeometry().topLeft()); }
 
 // Letters that are larger than usual aren't worth covering another form.
 void FormWindow::OpenBesideOthers() {

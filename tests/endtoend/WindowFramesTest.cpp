@@ -114,7 +114,6 @@ TEST_F(WindowFramesTest, MaximisedItFillsTheDisplayAndComesBackAsItWas) {
 }
 
 TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay) {
-  MoveMainFormTo({.x = 5, .y = 5});
   for (const auto &[keys, title] :
        {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
         std::pair{"alt+m Up Return", "^MIDI settings$"}}) {

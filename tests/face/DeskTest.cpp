@@ -60,14 +60,6 @@ TEST(Desk, ASecondFormKeepsOffTheFirst) {
   EXPECT_FALSE(second.intersects(first));
 }
 
-TEST(Desk, TheMainWindowLeavesTheRoomBesideItInOnePiece) {
-  constexpr QSize main(811, 593);
-  const QRect form(Desk::PlaceOfFirst(main, Screen), main);
-  EXPECT_TRUE(Screen.contains(form));
-  EXPECT_LT(form.left() - Screen.left(), 10);
-  EXPECT_EQ(Desk::PlaceOfFirst({4000, 3000}, Screen), Screen.topLeft());
-}
-
 TEST(Desk, WhatComesBeforeTheMainWindowStandsAtTheRight) {
   const QRect form(Desk::PlaceBeside({}, {400, 200}, Screen), QSize(400, 200));
   EXPECT_EQ(form.right(), Screen.right());
