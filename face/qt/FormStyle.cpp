@@ -1,5 +1,7 @@
 #include "face/qt/FormStyle.hpp"
 
+#include "face/qt/Drawings.hpp"
+#include "face/qt/DrawnIcon.hpp"
 #include "face/qt/Look.hpp"
 #include "face/qt/ScrollBarView.hpp"
 
@@ -238,13 +240,13 @@ QIcon FormStyle::standardIcon(StandardPixmap picture, const QStyleOption *option
                               const QWidget *widget) const {
   switch (picture) {
   case SP_MessageBoxCritical:
-    return QIcon(QStringLiteral(":/pictures/critical.svg"));
+    return DrawnIcon(*FindDrawing("critical"));
   case SP_MessageBoxQuestion:
-    return QIcon(QStringLiteral(":/pictures/question.svg"));
+    return DrawnIcon(*FindDrawing("question"));
   case SP_MessageBoxWarning:
-    return QIcon(QStringLiteral(":/pictures/warning.svg"));
+    return DrawnIcon(*FindDrawing("warning"));
   case SP_MessageBoxInformation:
-    return QIcon(QStringLiteral(":/pictures/information.svg"));
+    return DrawnIcon(*FindDrawing("information"));
   case SP_ToolBarHorizontalExtensionButton:
     return {}; // no menu bar here is too long for its window
   default:

@@ -1,6 +1,8 @@
 #include "face/qt/Program.hpp"
 
 #include "face/qt/Accessibility.hpp"
+#include "face/qt/Drawings.hpp"
+#include "face/qt/DrawnIcon.hpp"
 #include "face/qt/FormStyle.hpp"
 #include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
@@ -8,7 +10,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -21,14 +22,6 @@ namespace {
 
 std::string TextFromQt(const QString &path) {
   return TextFromPath(std::filesystem::path(path.toStdU16String()));
-}
-
-QIcon WindowIcon() {
-  PictureStore pictures;
-  QIcon icon;
-  for (const int side : {32, 64})
-    icon.addPixmap(pictures.Draw("tessoro", QSize(side, side), 1));
-  return icon;
 }
 
 // Whether a folder of programs is the whole machine's, as /usr/bin is. The superuser may write
@@ -48,7 +41,7 @@ void DressApplication() {
   QApplication::setPalette(Look::Menus(), "QMenu");
   QApplication::setLayoutDirection(Qt::LeftToRight); // places are fixed
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
-  QApplication::setWindowIcon(WindowIcon());
+  QApplication::setWindowIcon(DrawnIcon(*FindDrawing("icon")));
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessoro.Tessoro"));
   DescribeViewsToScreenReaders();
 }
