@@ -102,6 +102,21 @@ private:
   ComboBoxView &field;
 };
 
+// A label is called what it shows, unless it shows a bare value and says what that is.
+class LabelDescription : public QAccessibleWidget {
+public:
+  explicit LabelDescription(LabelView &view)
+      : QAccessibleWidget(&view, QAccessible::StaticText), label(view) {}
+
+  QString text(QAccessible::Text kind) const override {
+    const QString said = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name && said.isEmpty() ? label.Text() : said;
+  }
+
+private:
+  LabelView &label;
+};
+
 // What is only for the mouse can be pressed by a reader.
 class PressedDescription : public QAccessibleWidget {
 public:
@@ -140,6 +155,8 @@ QAccessibleInterface *Describe(const QString & /*className*/, QObject *object) {
     return new BarDescription(*bar);
   if (auto *field = dynamic_cast<ComboBoxView *>(object))
     return new ListFieldDescription(*field);
+  if (auto *label = dynamic_cast<LabelView *>(object))
+    return new LabelDescription(*label);
   if (auto *image = dynamic_cast<ImageView *>(object))
     return DescribeImage(*image);
   if (auto *key = dynamic_cast<NoteKeyView *>(object))

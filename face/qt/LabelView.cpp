@@ -3,6 +3,7 @@
 #include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -17,14 +18,14 @@ constexpr double NarrowestStretch = 0.75;
 // Keeps the texts of labels that touch apart.
 constexpr double MarginInTwips = 30;
 
-Qt::Alignment AlignmentOf(LabelAlign align) {
+int AlignmentOf(LabelAlign align) {
   switch (align) {
   case LabelAlign::Center:
-    return Qt::AlignHCenter;
+    return Qt::AlignHCenter | Qt::AlignVCenter;
   case LabelAlign::Right:
-    return Qt::AlignRight;
+    return Qt::AlignRight | Qt::AlignVCenter;
   default:
-    return Qt::AlignLeft;
+    return Qt::AlignLeft | Qt::AlignVCenter;
   }
 }
 
@@ -35,9 +36,7 @@ bool IsHeading(LabelStyle style) {
 } // namespace
 
 LabelView::LabelView(Label &shown, const Surroundings &around, QWidget *parent)
-    : QLabel(parent), ControlView(shown, around), label(shown) {
-  setTextFormat(Qt::PlainText);
-  setAlignment(AlignmentOf(label.Align()) | Qt::AlignVCenter);
+    : QWidget(parent), ControlView(shown, around), label(shown) {
   if (IsHeading(label.Style())) {
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Look::Ink());
@@ -67,7 +66,12 @@ void LabelView::ShowContent() {
   QString caption = WithLineBreaks(FromModel(label.Caption()));
   while (caption.endsWith(u'\n'))
     caption.chop(1);
-  setText(caption);
+  if (caption == text)
+    return;
+  text = caption;
+  update();
+  QAccessibleEvent renamed(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
 }
 
 // Accepted, so that the ground below isn't clicked too.
@@ -93,7 +97,7 @@ void LabelView::paintEvent(QPaintEvent * /*event*/) {
   painter.setPen(palette().color(QPalette::WindowText));
   const bool hasRoomForLines = area.height() >= 2 * fontMetrics().height();
   if (hasRoomForLines)
-    painter.drawText(area, static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+    painter.drawText(area, AlignmentOf(label.Align()) | Qt::TextWordWrap, text);
   else
     DrawLine(painter, area);
 }
@@ -102,13 +106,17 @@ void LabelView::paintEvent(QPaintEvent * /*event*/) {
 // where that doesn't help, as a long path does.
 void LabelView::DrawLine(QPainter &painter, const QRect &area) const {
   const int room = area.width() - Scale().RoundedPixels(2 * MarginInTwips);
-  const QString line =
-      fontMetrics().elidedText(text(), Qt::ElideMiddle, qRound(room / NarrowestStretch));
-  const double width = std::max(1, fontMetrics().horizontalAdvance(line));
+  const QFontMetrics letters = fontMetrics();
+  QString line = text;
+  double width = std::max(1, letters.horizontalAdvance(line));
+  if (width > room / NarrowestStretch) {
+    line = letters.elidedText(text, Qt::ElideMiddle, qRound(room / NarrowestStretch));
+    width = std::max(1, letters.horizontalAdvance(line));
+  }
   const double stretch = std::clamp(room / width, NarrowestStretch, 1.0);
   painter.scale(stretch, 1);
   const QRectF stretched(area.left() / stretch, area.top(), area.width() / stretch, area.height());
-  painter.drawText(stretched, static_cast<int>(alignment()) | Qt::TextDontClip, line);
+  painter.drawText(stretched, AlignmentOf(label.Align()) | Qt::TextDontClip, line);
 }
 
 FrameView::FrameView(Frame &shown, const Surroundings &around, QWidget *parent)

@@ -4,16 +4,18 @@
 #include "face/qt/ControlView.hpp"
 #include "surface/Decoration.hpp"
 
-#include <QLabel>
+#include <QWidget>
 
 namespace Tessoro {
 
-class LabelView : public QLabel, public ControlView {
+// Far lighter than the toolkit's own label, of which there would be eighty at the start.
+class LabelView : public QWidget, public ControlView {
 public:
   LabelView(Label &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
   void SetScale(const Tessoro::Scale &newScale) override;
+  const QString &Text() const { return text; }
 
 protected:
   Place CurrentPlace() const override;
@@ -27,6 +29,7 @@ private:
   void DrawLine(QPainter &painter, const QRect &area) const;
 
   Label &label;
+  QString text;
 };
 
 class FrameView : public QWidget, public ControlView {

@@ -39,7 +39,13 @@ TEST_F(AccessibilityTest, ANameIsWhatTheControlSaysOrItsCaption) {
   EXPECT_EQ(NameOf(app.F_Tessoro.TextF1_cutoff), "Filter 1 cutoff");
 }
 
+TEST_F(AccessibilityTest, ALabelIsCalledWhatItShowsNow) {
+  bench.Tag.SetCaption("other words");
+  EXPECT_EQ(NameOf(bench.Tag), "other words");
+}
+
 TEST_F(AccessibilityTest, RolesTellWhatAControlIs) {
+  EXPECT_EQ(Description(bench.Tag).role(), QAccessible::StaticText);
   EXPECT_EQ(Description(bench.Box).role(), QAccessible::EditableText);
   EXPECT_EQ(Description(bench.Combo).role(), QAccessible::ComboBox);
   EXPECT_EQ(Description(bench.Check).role(), QAccessible::CheckBox);

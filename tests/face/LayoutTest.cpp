@@ -112,7 +112,7 @@ TEST_F(LayoutTest, NoCaptionIsCut) {
     for (const Shown &each : ShownOn(form)) {
       if (const auto *label = dynamic_cast<const LabelView *>(each.widget);
           label != nullptr && label->height() < 2 * label->fontMetrics().height()) {
-        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()) * NarrowestStretch,
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->Text()) * NarrowestStretch,
                   label->width())
             << NameOf(*each.control);
         EXPECT_LE(label->fontMetrics().ascent(), label->height()) << NameOf(*each.control);
