@@ -34,6 +34,7 @@ int IndexIn(const std::vector<std::string> &list, const std::string &item) {
 
 DriveListView::DriveListView(DriveListBox &shown, const Surroundings &around, QWidget *parent)
     : QComboBox(parent), ControlView(shown, around), drives(shown) {
+  setFont(Look::ForAnyText({})); // all else is that of the form
   setFocusPolicy(Qt::StrongFocus);
   setPalette(Look::Field(Colors::Navy));
   view()->setAccessibleName(FromModel(drives.Says()));
@@ -60,7 +61,9 @@ void DriveListView::wheelEvent(QWheelEvent *event) {
 }
 
 DirListView::DirListView(DirListBox &shown, const Surroundings &around, QWidget *parent)
-    : QListWidget(parent), ControlView(shown, around), folders(shown) {}
+    : QListWidget(parent), ControlView(shown, around), folders(shown) {
+  setFont(Look::ForAnyText({}));
+}
 
 // Ancestors step in from the root; the subfolders stand one step behind the open folder.
 void DirListView::ShowContent() {
@@ -105,7 +108,9 @@ void DirListView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 FileListView::FileListView(FileListBox &shown, const Surroundings &around, QWidget *parent)
-    : QListWidget(parent), ControlView(shown, around), files(shown) {}
+    : QListWidget(parent), ControlView(shown, around), files(shown) {
+  setFont(Look::ForAnyText({}));
+}
 
 void FileListView::Show(Property property) {
   if (property == Property::FileName)

@@ -23,6 +23,14 @@ QFont Font(TextSize size, const Scale &scale, QFont::Weight weight) {
   QFont font(families);
   font.setPixelSize(std::max(1, qRound(static_cast<double>(size) * scale.zoom)));
   font.setWeight(weight);
+  font.setKerning(false);
+  font.setStyleStrategy(QFont::PreferNoShaping);
+  return font;
+}
+
+QFont ForAnyText(QFont font) {
+  font.setKerning(true);
+  font.setStyleStrategy(QFont::PreferDefault);
   return font;
 }
 

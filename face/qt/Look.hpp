@@ -26,8 +26,11 @@ QColor Ink();
 // Texts of what can't be used now.
 QColor FadedInk();
 
-// Sizes are pixels, so that the system's own font size can't break a fixed place.
+// Sizes are pixels, so that the system's own font size can't break a fixed place. Letters of plain
+// scripts are set one after the other: short captions look alike, and need no shaping library.
 QFont Font(TextSize size, const Scale &scale, QFont::Weight weight = QFont::Normal);
+// The same with marks over letters, and with kerning: names of files may hold anything.
+QFont ForAnyText(QFont font);
 
 // The amber ground with black texts, and navy fields as below.
 QPalette Windows();

@@ -72,7 +72,7 @@ MsgBoxButton ShowMessageBox(QWidget *parent, double zoom, const QString &text, i
   const ButtonSet buttons = ButtonsOf(flags);
   QMessageBox box(parent);
   box.setWindowTitle(title);
-  box.setFont(Look::Font(TextSize::Menu, {.zoom = zoom}));
+  box.setFont(Look::ForAnyText(Look::Font(TextSize::Menu, {.zoom = zoom})));
   box.setTextFormat(Qt::PlainText);
   box.setText(WithLineBreaks(text));
   box.setIcon(IconOf(flags));
