@@ -179,8 +179,8 @@ void SyxImport::Apply(const SyxByte &row, int number, int byte) {
     globals.SoundCategory += static_cast<char>(byte);
     Send(number, byte);
     break;
-  default:
-    break; // read and dropped
+  case SyxRule::Ignore:
+    break;
   }
 }
 

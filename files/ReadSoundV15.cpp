@@ -81,9 +81,19 @@ void SoundLoader::Load(const SoundLine &line) {
   case LoadRule::StepFirstByte:
     LoadOwn(line);
     break;
-  default:
+  case LoadRule::ShadowText:
+  case LoadRule::ShadowFlag:
+  case LoadRule::ShadowPrefix:
+  case LoadRule::ShadowGlideMode:
+  case LoadRule::ShadowStrict:
+  case LoadRule::ShadowTextSendPrefix:
+  case LoadRule::ShadowStrictSendPrefix:
+  case LoadRule::ShapeSendPrefix:
+  case LoadRule::StrictSend:
+  case LoadRule::StepSecondByte:
     ReadField();
     LoadShadow(line);
+    break;
   }
 }
 

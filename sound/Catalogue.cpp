@@ -113,9 +113,10 @@ std::string DisplayText(Display display, int wire) {
     return wire == 0 ? "parallel" : "serial";
   case Display::Character:
     return CharacterText(wire);
-  default:
-    return IntegerText(wire);
+  case Display::Wire:
+    break;
   }
+  return IntegerText(wire);
 }
 
 } // namespace Tessoro

@@ -252,7 +252,7 @@ void EnvelopeSection::MoveLines(const Panel &panel, Stage stage, double value) {
     panel.decay.SetY2(height);
     panel.release.SetY1(height);
     break;
-  default: // the release
+  case Stage::Release:
     panel.release.SetX2(static_cast<float>(panel.releaseBase + time));
     break;
   }
