@@ -16,7 +16,6 @@ constexpr int SysExStart = 240;
 constexpr int WaldorfId = 62;
 constexpr int QId = 15;
 constexpr int MicroQId = 16;
-constexpr int WireCenter = 64;
 
 // The data of the dump stand at offset 7 + index; above 255 a number is one above the index.
 int NumberAt(int offset) {
@@ -131,7 +130,7 @@ void SyxImport::Apply(const SyxByte &row, int number, int byte) {
     SetControl(row.target, byte);
     break;
   case SyxRule::Signed:
-    SetControl(row.target, byte - WireCenter);
+    SetControl(row.target, byte - ValueLists::WireCenter);
     break;
   case SyxRule::Octave:
     SelectOctave(*std::get<ComboBox *>(row.target), byte);

@@ -11,8 +11,6 @@ namespace Tessoro {
 
 namespace {
 
-constexpr int WireCenter = 64;
-
 // The octave words lack the sign for feet that the list's texts have.
 constexpr std::array<std::string_view, 9> OctaveWords{"1/2", "1",  "2",  "4",  "8",
                                                       "16",  "32", "64", "128"};
@@ -38,7 +36,7 @@ private:
   void Drop() { ReadField(); }
   void TakeField(TextBox &box) { box.SetText(ReadField()); }
   void TakeDisplayOfField(TextBox &box) {
-    box.SetText(NumberText(app.StrictNumber(ReadField()) - WireCenter));
+    box.SetText(NumberText(app.StrictNumber(ReadField()) - ValueLists::WireCenter));
   }
   std::int16_t ReadStrict() { return app.StrictInteger(ReadField()); }
   void ReadFieldWithWordForZero(std::string_view word);
@@ -127,7 +125,8 @@ void OldSoundLoader::LoadOscillator(const Oscillator &oscillator) {
   TakeField(oscillator.semi);
   TakeField(oscillator.detune);
   TakeField(oscillator.pulseWidth);
-  oscillator.pulseWidthModulation.SetText(NumberText(NumericPrefix(ReadField()) - WireCenter));
+  oscillator.pulseWidthModulation.SetText(
+      NumberText(NumericPrefix(ReadField()) - ValueLists::WireCenter));
   ReadFieldWithWordForZero("Off");
   SelectWord(oscillator.source, ValueLists::ModSourceTexts);
   Drop();

@@ -8,6 +8,9 @@
 
 namespace Tessoro::ValueLists {
 
+// The wire value of zero where a value has a sign.
+inline constexpr int WireCenter = 64;
+
 // A text with the wire value that it stands for.
 struct TextValue {
   std::string_view text;

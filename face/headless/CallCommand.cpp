@@ -132,11 +132,11 @@ void Call(Session &session, const Words &words) {
   session.App.Event([&] { routine->play(session, arguments); });
 }
 
-constexpr Command Table[] = {
+constexpr Command CallTable[] = {
     {"call", "ROUTINE [VALUE...]", Call, "calls a routine of the editor, as SendSoundParam"}};
 
 } // namespace
 
-Commands CallCommands() { return Table; }
+Commands CallCommands() { return CallTable; }
 
 } // namespace Tessoro

@@ -133,7 +133,7 @@ void Dump(Session &session, const Words &words) {
       DumpControl(session, *control);
 }
 
-constexpr Command Table[] = {
+constexpr Command CodeTable[] = {
     {"set", "PROPERTY VALUE", Set, "writes a property or a global as code does"},
     {"get", "PROPERTY", Get, "prints it, as in get F_Tessoro.TextF1_cutoff.Text"},
     {"items", "CONTROL", Items, "prints the items of a list"},
@@ -145,6 +145,6 @@ constexpr Command Table[] = {
 
 } // namespace
 
-Commands CodeCommands() { return Table; }
+Commands CodeCommands() { return CodeTable; }
 
 } // namespace Tessoro

@@ -98,7 +98,7 @@ void Mouse(Session &session, const Words &words) {
              {.button = isHover ? 0 : LeftButton, .x = Twips(words[2]), .y = Twips(words[3])});
 }
 
-constexpr Command Table[] = {
+constexpr Command MouseTable[] = {
     {"click", "CONTROL", Click, "clicks on anything that can be clicked"},
     {"dblclick", "CONTROL", DoubleClick, "clicks twice"},
     {"mouse", "ACT CONTROL NUMBER NUMBER", Mouse, "down, move or up at X Y, 15 to a pixel"},
@@ -106,6 +106,6 @@ constexpr Command Table[] = {
 
 } // namespace
 
-Commands MouseCommands() { return Table; }
+Commands MouseCommands() { return MouseTable; }
 
 } // namespace Tessoro

@@ -67,7 +67,7 @@ void Start(Session &session, const Words & /*words*/) {
   session.App.Start();
 }
 
-constexpr Command Table[] = {
+constexpr Command SetUpTable[] = {
     {"midi-out", "TEXT [NUMBER NUMBER NUMBER NUMBER]", MidiOut,
      "an OUT device to choose, by name and numbers", Allowed::BeforeStart},
     {"midi-in", "TEXT", MidiIn, "an IN device to choose, by name", Allowed::BeforeStart},
@@ -80,6 +80,6 @@ constexpr Command Table[] = {
 
 } // namespace
 
-Commands SetUpCommands() { return Table; }
+Commands SetUpCommands() { return SetUpTable; }
 
 } // namespace Tessoro

@@ -134,7 +134,7 @@ void Tick(Session &session, const Words &words) {
                      [&session] { return session.App.HasEnded(); });
 }
 
-constexpr Command Table[] = {
+constexpr Command UserTable[] = {
     {"type", "CONTROL TEXT", Type, "keys into a box, one after the other"},
     {"erase", "CONTROL", Erase, "empties a box"},
     {"paste", "CONTROL TEXT", Paste, "puts the text into a box at once"},
@@ -153,6 +153,6 @@ constexpr Command Table[] = {
 
 } // namespace
 
-Commands UserCommands() { return Table; }
+Commands UserCommands() { return UserTable; }
 
 } // namespace Tessoro

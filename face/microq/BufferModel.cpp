@@ -10,7 +10,7 @@ namespace Tessoro {
 
 namespace {
 
-constexpr int Gap = 256; // no parameter has this number
+constexpr int MissingNumber = 256; // no parameter has this number
 
 // Filter 1's type has a controller and no number; on the panel it stands before the cutoff.
 constexpr int CutoffOfFilter1 = 78;
@@ -25,7 +25,7 @@ QVariant AlignmentOf(int column) {
 
 BufferModel::BufferModel(QObject *parent) : QAbstractTableModel(parent) {
   for (int number = 1; number <= static_cast<int>(MicroQState::HighestParameter); ++number) {
-    if (number == Gap)
+    if (number == MissingNumber)
       continue;
     if (number == CutoffOfFilter1)
       for (const ControllerRow &each : Controllers())

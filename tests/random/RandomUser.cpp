@@ -7,11 +7,7 @@
 
 namespace Tessoro::Random {
 
-namespace {
-
 std::string NameOf(const Control &control) { return control.Owner().Name() + "." + control.Name(); }
-
-} // namespace
 
 RandomUser::RandomUser(Session &editor, Generator &generator, const Files &machine)
     : session(editor), random(generator) {

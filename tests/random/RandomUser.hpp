@@ -10,6 +10,9 @@
 
 namespace Tessoro::Random {
 
+// As the driver's commands name it.
+std::string NameOf(const Control &control);
+
 // Speaks the driver's language: each line is one that the session takes, as it stands at that
 // moment.
 class RandomUser {

@@ -1,6 +1,7 @@
 #include "tests/random/Rules.hpp"
 
 #include "surface/Conversions.hpp"
+#include "tests/random/RandomUser.hpp"
 
 #include <algorithm>
 #include <array>
@@ -53,8 +54,6 @@ bool IsChannelMessage(std::uint32_t word, int channel) {
 bool MayEndTheProgram(std::string_view failure) {
   return failure == "failure 13" || failure == "failure 6" || failure == "failure 380";
 }
-
-std::string NameOf(const Control &control) { return control.Owner().Name() + "." + control.Name(); }
 
 template <typename Type>
 Type *Find(const Session &session, const std::string &form, const std::string &name) {

@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr double largest = std::numeric_limits<double>::max();
+constexpr double greatest = std::numeric_limits<double>::max();
 
 struct PrefixRow {
   std::string_view text;
@@ -269,17 +269,17 @@ TEST(NumericPrefix, ASignDoesNotGoWithARadix) {
 TEST(NumericPrefix, OfANumberThatIsTooLargeItGivesTheLargestFloat) {
   CheckPrefixes({
       {"1e308", 1e308},
-      {"1e309", largest},
-      {"-1e309", -largest},
-      {"1e999", largest},
-      {"-1D999", -largest},
-      {"1e99999999999999999999", largest},
-      {"-1e+99999999999999999999", -largest},
-      {"0.0001e400", largest},
-      {"&H100000000", largest},
-      {"&HFFFFFFFFFFFFFFFFFFFFFFFFF", largest},
-      {"&H10000000000000005", largest},
-      {"&O40000000000", largest},
+      {"1e309", greatest},
+      {"-1e309", -greatest},
+      {"1e999", greatest},
+      {"-1D999", -greatest},
+      {"1e99999999999999999999", greatest},
+      {"-1e+99999999999999999999", -greatest},
+      {"0.0001e400", greatest},
+      {"&H100000000", greatest},
+      {"&HFFFFFFFFFFFFFFFFFFFFFFFFF", greatest},
+      {"&H10000000000000005", greatest},
+      {"&O40000000000", greatest},
   });
 }
 
@@ -302,8 +302,8 @@ TEST(NumericPrefix, TakesTextsOfAnyLength) {
   const std::string nines(100000, '9');
   const std::string blanks(100000, ' ');
   EXPECT_EQ(NumericPrefix(zeros + "5"), 5);
-  EXPECT_EQ(NumericPrefix(nines), largest);
-  EXPECT_EQ(NumericPrefix("-" + nines), -largest);
+  EXPECT_EQ(NumericPrefix(nines), greatest);
+  EXPECT_EQ(NumericPrefix("-" + nines), -greatest);
   EXPECT_EQ(NumericPrefix("." + zeros + "5"), 0);
   EXPECT_EQ(NumericPrefix("0." + nines), 1);
   EXPECT_EQ(NumericPrefix("1" + blanks + "2"), 12);

@@ -1,5 +1,6 @@
 #include "service/builtin/BuiltinMicroQ.hpp"
 #include "service/builtin/BuiltinSource.hpp"
+#include "tests/unit/MicroQMessages.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +10,7 @@
 namespace Tessoro {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
 using Kind = MicroQMessageKind;
-
-Bytes Change(std::uint8_t high, std::uint8_t low, std::uint8_t value) {
-  return {0xF0, 0x3E, 0x10, 0x00, 0x20, 0x00, high, low, value, 0xF7};
-}
 
 struct MeaningRow {
   const char *name;

@@ -1,4 +1,5 @@
 #include "service/builtin/MessageText.hpp"
+#include "tests/unit/MicroQMessages.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,6 @@
 namespace Tessoro {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
 using namespace std::chrono_literals;
 
 LoggedMessage Logged(const Bytes &bytes) {
@@ -19,10 +19,6 @@ LoggedMessage Logged(const Bytes &bytes) {
               message.firstBytes.begin());
   message.meaning = Understand(bytes);
   return message;
-}
-
-Bytes Change(std::uint8_t high, std::uint8_t low, std::uint8_t value) {
-  return {0xF0, 0x3E, 0x10, 0x00, 0x20, 0x00, high, low, value, 0xF7};
 }
 
 struct TextRow {
