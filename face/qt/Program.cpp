@@ -1,6 +1,7 @@
 #include "face/qt/Program.hpp"
 
 #include "face/qt/Accessibility.hpp"
+#include "face/qt/Composition.hpp"
 #include "face/qt/FormStyle.hpp"
 #include "face/qt/Look.hpp"
 #include "face/qt/Text.hpp"
@@ -50,6 +51,8 @@ void DressApplication() {
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
   QApplication::setWindowIcon(WindowIcon());
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessoro.Tessoro"));
+  QCoreApplication *application = QCoreApplication::instance();
+  application->installEventFilter(new Composition(application));
   DescribeViewsToScreenReaders();
 }
 
