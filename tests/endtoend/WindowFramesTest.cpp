@@ -1,4 +1,5 @@
 // Windows with frames: how they behave under a window manager.
+#include "tests/endtoend/ShownMicroQ.hpp"
 #include "tests/endtoend/Waiting.hpp"
 #include "tests/endtoend/WindowManager.hpp"
 #include "tests/endtoend/WindowedEditor.hpp"
@@ -18,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr const char *MainTitle = "^Tessoro (freeware )?v[0-9]";
+constexpr const char *MicroQTitle = "^microQ";
 // Of the menu, which comes in whole pixels.
 constexpr double Tolerance = 6;
 
@@ -111,6 +113,48 @@ TEST_F(WindowFramesTest, MaximisedItFillsTheDisplayAndComesBackAsItWas) {
   DoubleClickTitle();
   ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
   EXPECT_TRUE(SettlesInProportion());
+}
+
+TEST_F(WindowFramesTest, ItsButtonMaximisesItAndBringsItBackAsItWas) {
+  manager->Click(mainWindow, FrameButton::Maximise);
+  ASSERT_TRUE(
+      Eventually([&] { return display->AreaOf(mainWindow).width == VirtualDisplay::Width; }, 5s));
+  manager->Click(mainWindow, FrameButton::Maximise);
+  ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
+  EXPECT_TRUE(SettlesInProportion());
+}
+
+TEST_F(WindowFramesTest, PutAwayItComesBackWithWhatWasTyped) {
+  const TextBox &cutoff = editor->Design().F_Tessoro.TextF1_cutoff;
+  editor->MainForm().Type(cutoff, "6");
+  manager->Click(mainWindow, FrameButton::Iconify);
+  display->WaitUntilGone(MainTitle);
+  display->BringBack(mainWindow);
+  EXPECT_EQ(display->WaitForWindow(MainTitle), mainWindow);
+  EXPECT_EQ(display->AreaOf(mainWindow).width, atFirst.width);
+  editor->MainForm().Click(cutoff, {.x = 0.3});
+  display->PressKeys("End 4");
+  EXPECT_EQ(ShownMicroQ(*display, MicroQTitle).Lines(2).back(),
+            "F0 3E 10 00 20 00 00 4E 40 F7  Filter 1 cutoff = 64");
+}
+
+TEST_F(WindowFramesTest, EveryKindOfWindowIsClosedByTheButtonInItsFrame) {
+  const auto closes = [&](const char *title) {
+    manager->Click(display->WaitForWindow(title), FrameButton::Close);
+    display->WaitUntilGone(title);
+  };
+  for (const auto &[keys, title] :
+       {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
+        std::pair{"alt+a", "^About Tessoro$"}, std::pair{"alt+m Up Return", "^MIDI settings$"}}) {
+    editor->MainForm().PressKeys(keys);
+    closes(title);
+  }
+  // With the ports shut, a change can't go out.
+  editor->MainForm().Type(editor->Design().F_Tessoro.TextF1_cutoff, "6");
+  closes("^Tessoro$");
+  closes(MicroQTitle);
+  manager->Click(mainWindow, FrameButton::Close);
+  EXPECT_EQ(editor->ExitStatus(), 0);
 }
 
 TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay) {
