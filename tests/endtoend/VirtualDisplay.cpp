@@ -117,7 +117,7 @@ void VirtualDisplay::Focus(const std::string &window) const {
   });
 }
 
-void VirtualDisplay::BringBack(const std::string &window) const { Do("windowmap " + window); }
+void VirtualDisplay::BringBack(const std::string &window) const { Do("windowactivate " + window); }
 
 std::string VirtualDisplay::Focused() const { return Do("getwindowfocus"); }
 

@@ -66,7 +66,7 @@ public:
   void Close(const std::string &window) const;
   // Brings it to the front and gives it the keyboard.
   void Focus(const std::string &window) const;
-  // Of those that were put away.
+  // Of those that a window manager has put away: asks it as a task bar does.
   void BringBack(const std::string &window) const;
   // Who has the keyboard.
   std::string Focused() const;

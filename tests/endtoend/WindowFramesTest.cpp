@@ -129,9 +129,12 @@ TEST_F(WindowFramesTest, PutAwayItComesBackWithWhatWasTyped) {
   editor->MainForm().Type(cutoff, "6");
   manager->Click(mainWindow, FrameButton::Iconify);
   display->WaitUntilGone(MainTitle);
+  const std::string next = display->WaitForWindow(MicroQTitle);
+  WaitFor("the keyboard in the next window", [&] { return display->Focused() == next; });
   display->BringBack(mainWindow);
   EXPECT_EQ(display->WaitForWindow(MainTitle), mainWindow);
   EXPECT_EQ(display->AreaOf(mainWindow).width, atFirst.width);
+  WaitFor("the keyboard", [&] { return display->Focused() == mainWindow; });
   editor->MainForm().Click(cutoff, {.x = 0.3});
   display->PressKeys("End 4");
   EXPECT_EQ(ShownMicroQ(*display, MicroQTitle).Lines(2).back(),
