@@ -4,7 +4,7 @@
 #include "tests/endtoend/WindowManager.hpp"
 #include "tests/endtoend/WindowedEditor.hpp"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <cstdlib>
@@ -105,14 +105,23 @@ TEST_F(WindowFramesTest, TheProportionIsKeptThoughTheUserPausesWithTheCornerInHa
 }
 
 TEST_F(WindowFramesTest, MaximisedItFillsTheDisplayAndComesBackAsItWas) {
+  const Area cutoff = editor->MainForm().AreaOf(editor->Design().F_Tessoro.TextF1_cutoff);
   DoubleClickTitle();
   ASSERT_TRUE(
       Eventually([&] { return display->AreaOf(mainWindow).width == VirtualDisplay::Width; }, 5s));
   std::this_thread::sleep_for(500ms); // it asks for no other size
   EXPECT_EQ(display->AreaOf(mainWindow).width, VirtualDisplay::Width);
+  // What it holds has grown with it.
+  const auto grown = [zoom = Zoom()](double pixels) { return static_cast<int>(pixels * zoom); };
+  display->Click(
+      {{.x = grown(cutoff.left + cutoff.width / 2.0), .y = grown(cutoff.top + cutoff.height / 2.0)},
+       mainWindow});
+  display->PressKeys("6");
   DoubleClickTitle();
   ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
   EXPECT_TRUE(SettlesInProportion());
+  EXPECT_THAT(ShownMicroQ(*display, MicroQTitle).Lines(1),
+              testing::ElementsAre("F0 3E 10 00 20 00 00 4E 06 F7  Filter 1 cutoff = 6"));
 }
 
 TEST_F(WindowFramesTest, ItsButtonMaximisesItAndBringsItBackAsItWas) {
