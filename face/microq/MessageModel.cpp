@@ -44,7 +44,7 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
   if (role == Qt::TextAlignmentRole && index.column() == Time)
     return QVariant::fromValue<Qt::Alignment>(Qt::AlignRight | Qt::AlignVCenter);
   if (role == Qt::FontRole && index.column() == Bytes)
-    return MicroQLook::BytesFont();
+    return bytesFont;
   if (role == Qt::ForegroundRole && message.meaning.kind == MicroQMessageKind::Malformed)
     return MicroQLook::Fault();
   if (role == Qt::ForegroundRole && IsUnknown(message))

@@ -4,6 +4,7 @@
 #include "service/builtin/MessageInbox.hpp"
 
 #include <QAbstractTableModel>
+#include <QFont>
 
 #include <deque>
 #include <vector>
@@ -23,6 +24,9 @@ public:
   void Append(const std::vector<LoggedMessage> &messages);
   void Clear();
 
+  // Of the bytes; shown when the list is laid out anew.
+  void SetBytesFont(const QFont &font) { bytesFont = font; }
+
   const LoggedMessage &At(int row) const { return lines.at(static_cast<std::size_t>(row)); }
 
   int rowCount(const QModelIndex &parent = {}) const override;
@@ -34,6 +38,7 @@ private:
   void RemoveFromTop(std::size_t count);
 
   std::deque<LoggedMessage> lines;
+  QFont bytesFont;
 };
 
 } // namespace Tessoro

@@ -17,10 +17,14 @@ namespace {
 class ListBar : public QScrollBar {
 public:
   using QScrollBar::QScrollBar;
-  QSize sizeHint() const override { return {Thickness, Thickness}; }
+  QSize sizeHint() const override { return {thickness, thickness}; }
+  void SetThickness(int pixels) {
+    thickness = pixels;
+    updateGeometry();
+  }
 
 private:
-  static constexpr int Thickness = 14;
+  int thickness = 0;
 };
 
 // A text that its column cuts is told whole where the pointer rests on it.
@@ -45,7 +49,6 @@ MicroQList::MicroQList(QAbstractItemModel &model, const QString &accessibleName)
   setItemDelegate(new CutTextDelegate(this));
   setAccessibleName(accessibleName);
   setPalette(Look::Field(Colors::Navy));
-  setFont(Look::Font(TextSize::Menu, {}));
   header()->setPalette(Look::Windows());
   header()->setSectionsMovable(false);
   setRootIsDecorated(false);
@@ -59,13 +62,21 @@ MicroQList::MicroQList(QAbstractItemModel &model, const QString &accessibleName)
   setVerticalScrollBar(bar);
 }
 
+void MicroQList::SetScale(const Scale &newScale) {
+  constexpr double barThickness = 14;
+  scale = newScale;
+  setFont(Look::Font(TextSize::Menu, scale));
+  static_cast<ListBar *>(verticalScrollBar())->SetThickness(qRound(barThickness * scale.zoom));
+}
+
 void MicroQList::MakeColumnFit(int column, const QString &text) {
   MakeColumnFit(column, text, font());
 }
 
 void MicroQList::MakeColumnFit(int column, const QString &text, const QFont &fontOfColumn) {
-  constexpr int roomAround = 16;
-  header()->resizeSection(column, QFontMetrics(fontOfColumn).horizontalAdvance(text) + roomAround);
+  constexpr double roomAround = 16;
+  header()->resizeSection(column, QFontMetrics(fontOfColumn).horizontalAdvance(text) +
+                                      qRound(roomAround * scale.zoom));
 }
 
 } // namespace Tessoro

@@ -16,8 +16,8 @@ inline QColor Unknown() { return {190, 178, 255}; }
 inline QColor Mark() { return {74, 62, 150}; }
 
 // Of bytes, which stand in columns of their own.
-inline QFont BytesFont() {
-  QFont font = Look::Font(TextSize::Control, {});
+inline QFont BytesFont(const Scale &scale) {
+  QFont font = Look::Font(TextSize::Control, scale);
   font.setFamilies({QStringLiteral("Noto Sans Mono"), QStringLiteral("DejaVu Sans Mono"),
                     QStringLiteral("monospace")});
   font.setStyleHint(QFont::Monospace);

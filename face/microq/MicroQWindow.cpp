@@ -3,7 +3,9 @@
 #include "face/microq/MicroQList.hpp"
 #include "face/microq/MicroQLook.hpp"
 #include "face/microq/ScreenPace.hpp"
+#include "face/qt/Desk.hpp"
 #include "face/qt/Look.hpp"
+#include "face/qt/ZoomKeys.hpp"
 #include "service/builtin/MessageText.hpp"
 
 #include <QApplication>
@@ -20,23 +22,21 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Tessoro {
 
 namespace {
 
-constexpr int Margin = 10;
-constexpr int Gap = 6;
-
-QLabel *MakeHeading(const QString &text) {
-  auto *heading = new QLabel(text);
-  heading->setFont(Look::Font(TextSize::Heading, {}, QFont::DemiBold));
-  return heading;
-}
-
-int WidthOf(const QWidget &widget, const QString &text) {
-  constexpr int roomAround = 22;
-  return widget.fontMetrics().horizontalAdvance(text) + roomAround;
-}
+// In pixels at a zoom of 1.
+constexpr QSize UsualSize(1080, 560);
+// Below it, the columns of its lists would be cut too much.
+constexpr QSize LeastSize(740, 380);
+// Larger letters aren't worth cutting any of them.
+constexpr QSize LeastSizeWhenZoomed(900, 380);
+constexpr double Margin = 10;
+constexpr double Gap = 6;
+constexpr double RoomAround = 22; // texts of buttons
 
 } // namespace
 
@@ -45,18 +45,14 @@ MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInb
     : source(microQ), inbox(messageInbox), filter(buffer) {
   setWindowTitle(title);
   setAttribute(Qt::WA_ShowWithoutActivating); // the editor keeps the keyboard
-  setFont(Look::Font(TextSize::Menu, {}));
 
-  auto *panes = new QSplitter;
+  panes = new QSplitter;
   panes->addWidget(MakeMessagePane());
   panes->addWidget(MakeBufferPane());
   panes->setSizes({590, 480});
   panes->setChildrenCollapsible(false);
-  panes->setHandleWidth(Margin);
   statusLine = new QLabel;
   auto *column = new QVBoxLayout(this);
-  column->setContentsMargins(Margin, Margin, Margin, Gap);
-  column->setSpacing(Gap);
   column->addWidget(panes, 1);
   column->addWidget(statusLine);
 
@@ -68,18 +64,94 @@ MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInb
   inbox.SetBell([this] {
     QMetaObject::invokeMethod(this, &MicroQWindow::StartLooking, Qt::QueuedConnection);
   });
-  resize(1080, 560);
+  ListenToZoomKeys(*this, [this](int direction) { ZoomByKey(direction); });
+  SetZoom(1);
+  resize(UsualSize);
 }
 
 MicroQWindow::~MicroQWindow() { inbox.SetBell({}); }
+
+void MicroQWindow::OpenAlone() {
+  openingZoom = Desk::OpeningZoom(UsualSize, Desk::RoomFor(*this));
+  SetZoom(openingZoom);
+}
+
+// Letters that are larger than usual aren't worth covering a form.
+void MicroQWindow::OpenBesideOthers() {
+  OpenAlone();
+  const auto standsBeside = [this] {
+    resize(UsualSize * zoom);
+    return Desk::StandBesideOthers(*this, (zoom > 1 ? LeastSizeWhenZoomed : LeastSize) * zoom);
+  };
+  while (!standsBeside() && Desk::NextZoom(zoom, -1) >= 1)
+    SetZoom(Desk::NextZoom(zoom, -1));
+  openingZoom = zoom;
+}
+
+void MicroQWindow::ZoomByKey(int direction) {
+  const QSize room = Desk::RoomFor(*this);
+  const double newZoom = direction == 0 ? openingZoom : Desk::NextZoom(zoom, direction);
+  SetZoom(std::min(newZoom, Desk::LargestZoom(LeastSize, room)));
+  if (isMaximized() || isFullScreen())
+    return;
+  resize(size().boundedTo(room));
+  Desk::PullOntoScreen(*this);
+}
+
+// The window keeps what the user has made of its proportion.
+void MicroQWindow::SetZoom(double newZoom) {
+  const double growth = newZoom / zoom;
+  zoom = newZoom;
+  LayOut();
+  layout()->activate(); // else what it needed before would bound it still
+  if (!isMaximized() && !isFullScreen())
+    resize(size() * growth);
+}
+
+void MicroQWindow::LayOut() {
+  const Scale scale{.zoom = zoom};
+  const int margin = qRound(Margin * zoom);
+  const int gap = qRound(Gap * zoom);
+  setFont(Look::Font(TextSize::Menu, scale));
+  for (QLabel *heading : headings)
+    heading->setFont(Look::Font(TextSize::Heading, scale, QFont::DemiBold));
+  for (QLayout *row : findChildren<QLayout *>())
+    row->setSpacing(gap);
+  layout()->setContentsMargins(margin, margin, margin, gap);
+  panes->setHandleWidth(margin);
+  const QFontMetrics letters(font());
+  const int height = letters.height() + margin;
+  const auto widthOf = [&](const QString &text) {
+    return letters.horizontalAdvance(text) + qRound(RoomAround * zoom);
+  };
+  for (QPushButton *button : buttons)
+    button->setFixedSize(widthOf(tr("Resume")) + margin, height);
+  search->setFixedHeight(height);
+  search->setMinimumWidth(widthOf(search->placeholderText()));
+
+  const QFont bytes = MicroQLook::BytesFont(scale);
+  messages.SetBytesFont(bytes);
+  messageList->SetScale(scale);
+  messageList->MakeColumnFit(MessageModel::Time, QStringLiteral("00000.000"));
+  messageList->MakeColumnFit(MessageModel::Bytes, QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7"),
+                             bytes);
+  bufferList->SetScale(scale);
+  bufferList->MakeColumnFit(BufferModel::Number, QStringLiteral("CC 68"));
+  bufferList->MakeColumnFit(BufferModel::Name, QStringLiteral("Filter 1 cutoff modulation amount"));
+  bufferList->MakeColumnFit(BufferModel::Value, QStringLiteral("0000"));
+}
+
+QLabel *MicroQWindow::MakeHeading(const QString &text) {
+  auto *heading = new QLabel(text);
+  headings.push_back(heading);
+  return heading;
+}
 
 QWidget *MicroQWindow::MakeMessagePane() {
   auto *pane = new QWidget;
   auto *column = new QVBoxLayout(pane);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(Gap);
   auto *row = new QHBoxLayout;
-  row->setSpacing(Gap);
   row->addWidget(MakeHeading(tr("Messages")), 1);
   pauseButton = MakeButton(tr("&Pause"), tr("Stops the list; messages that come are kept"), *row);
   connect(pauseButton, &QPushButton::clicked, this, [this] { Pause(!isPaused); });
@@ -91,9 +163,6 @@ QWidget *MicroQWindow::MakeMessagePane() {
 
   messageList = new MicroQList(messages, tr("Messages"));
   messageList->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  messageList->MakeColumnFit(MessageModel::Time, QStringLiteral("00000.000"));
-  messageList->MakeColumnFit(MessageModel::Bytes, QStringLiteral("F0 3E 10 00 20 00 00 4E 40 F7"),
-                             MicroQLook::BytesFont());
   column->addWidget(messageList, 1);
   return pane;
 }
@@ -102,33 +171,25 @@ QWidget *MicroQWindow::MakeBufferPane() {
   auto *pane = new QWidget;
   auto *column = new QVBoxLayout(pane);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(Gap);
   auto *row = new QHBoxLayout;
-  row->setSpacing(Gap);
   row->addWidget(MakeHeading(tr("Edit buffer")), 1);
-  auto *search = new QLineEdit;
+  search = new QLineEdit;
   search->setPlaceholderText(tr("Search name or number"));
   search->setAccessibleName(tr("Search in the edit buffer"));
-  search->setFixedHeight(search->fontMetrics().height() + Margin);
-  search->setMinimumWidth(WidthOf(*search, search->placeholderText()));
   search->setFrame(false);
   connect(search, &QLineEdit::textChanged, &filter, &BufferFilter::Search);
   row->addWidget(search);
   column->addLayout(row);
 
-  auto *list = new MicroQList(filter, tr("Edit buffer"));
-  list->MakeColumnFit(BufferModel::Number, QStringLiteral("CC 68"));
-  list->MakeColumnFit(BufferModel::Name, QStringLiteral("Filter 1 cutoff modulation amount"));
-  list->MakeColumnFit(BufferModel::Value, QStringLiteral("0000"));
-  column->addWidget(list, 1);
+  bufferList = new MicroQList(filter, tr("Edit buffer"));
+  column->addWidget(bufferList, 1);
   return pane;
 }
 
 QPushButton *MicroQWindow::MakeButton(const QString &text, const QString &toolTip, QLayout &row) {
   auto *button = new QPushButton(text);
   button->setToolTip(toolTip);
-  button->setFixedSize(WidthOf(*button, tr("Resume")) + Margin,
-                       button->fontMetrics().height() + Margin);
+  buttons.push_back(button);
   row.addWidget(button);
   return button;
 }

@@ -7,10 +7,13 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class QSplitter;
 class QTimer;
 
 namespace Tessoro {
@@ -28,6 +31,14 @@ public:
   ~MicroQWindow() override;
   MicroQWindow(const MicroQWindow &) = delete;
   MicroQWindow &operator=(const MicroQWindow &) = delete;
+
+  // Before it is shown: as large as fits the screen well, or so that it has room beside the windows
+  // that are there. The latter makes it smaller, though its letters not smaller than usual.
+  void OpenAlone();
+  void OpenBesideOthers();
+  // Of letters and all else. The keys that zoom a form zoom this too.
+  double Zoom() const { return zoom; }
+  void SetZoom(double newZoom);
 
   // In words, at the bottom of the window: "Open", or where messages come from.
   void ShowStatus(const QString &text);
@@ -51,6 +62,9 @@ protected:
   void hideEvent(QHideEvent *event) override;
 
 private:
+  void ZoomByKey(int direction);
+  void LayOut();
+  QLabel *MakeHeading(const QString &text);
   QWidget *MakeMessagePane();
   QWidget *MakeBufferPane();
   QPushButton *MakeButton(const QString &text, const QString &toolTip, QLayout &row);
@@ -68,6 +82,13 @@ private:
   std::uint64_t seenTotal = 0;
   QString status;
 
+  double zoom = 1;
+  double openingZoom = 1;
+  QSplitter *panes = nullptr;
+  std::vector<QLabel *> headings;
+  std::vector<QPushButton *> buttons;
+  QLineEdit *search = nullptr;
+  MicroQList *bufferList = nullptr;
   MicroQList *messageList = nullptr;
   QPushButton *pauseButton = nullptr;
   QLabel *statusLine = nullptr;

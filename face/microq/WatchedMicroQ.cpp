@@ -1,15 +1,6 @@
 #include "face/microq/WatchedMicroQ.hpp"
 
-#include "face/qt/Desk.hpp"
-
 namespace Tessoro {
-
-namespace {
-
-// In pixels. Below it, the columns of its lists would be cut too much.
-constexpr QSize LeastSize(740, 380);
-
-} // namespace
 
 WatchedMicroQ::WatchedMicroQ() {
   microQ.AddListener(inbox);
@@ -39,7 +30,7 @@ void WatchedMicroQ::BringUp() {
     window = std::make_unique<MicroQWindow>(microQ, inbox, tr("microQ (built-in)"));
   window->ShowStatus(tr("The port is open"));
   if (!window->isVisible())
-    Desk::StandBesideOthers(*window, LeastSize);
+    window->OpenBesideOthers();
   window->show();
 }
 

@@ -57,6 +57,7 @@ int RunWindow(MonitorPort &port, const BuiltinMicroQ &microQ, MessageInbox &inbo
     window.ShowStatus(MicroQWindow::tr("Gone: %1").arg(system));
   });
   look.start(1s);
+  window.OpenAlone();
   window.show();
   return QApplication::exec();
 }

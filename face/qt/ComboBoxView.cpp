@@ -15,11 +15,10 @@
 namespace Tessoro {
 
 ComboBoxView::ComboBoxView(ComboBox &shown, const Surroundings &around, QWidget *parent)
-    : QLineEdit(parent), ControlView(shown, around), combo(shown) {
+    : EditField(parent), ControlView(shown, around), combo(shown) {
   setMouseTracking(true); // the pointer's shape tells the field from its arrow
   if (combo.BackColor() != Colors::Navy)
     setPalette(Look::Field(combo.BackColor()));
-  connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
 }
 
 void ComboBoxView::SetScale(const Tessoro::Scale &newScale) {

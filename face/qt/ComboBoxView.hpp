@@ -2,9 +2,9 @@
 #pragma once
 
 #include "face/qt/ControlView.hpp"
+#include "face/qt/EditField.hpp"
 #include "surface/ComboBox.hpp"
 
-#include <QLineEdit>
 #include <QPointer>
 
 namespace Tessoro {
@@ -13,7 +13,7 @@ class ItemList;
 
 // A field that brings up its list when it is asked to. The toolkit's own makes a list for each
 // field beforehand and moves its selection by itself.
-class ComboBoxView : public QLineEdit, public ControlView {
+class ComboBoxView : public EditField, public ControlView {
 public:
   ComboBoxView(ComboBox &shown, const Surroundings &around, QWidget *parent);
 
@@ -27,6 +27,7 @@ public:
 
 protected:
   void ShowContent() override;
+  void Edited(const QString &edited) override;
 
   void focusInEvent(QFocusEvent *event) override;
   void focusOutEvent(QFocusEvent *event) override;
@@ -38,7 +39,6 @@ protected:
 
 private:
   QRect ArrowArea() const;
-  void Edited(const QString &edited);
   void Pick(int index);
   // To the next item, or the one before; ends where the list ends.
   void Step(int direction);

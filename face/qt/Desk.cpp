@@ -49,6 +49,10 @@ qint64 CoveredOf(const std::vector<QRect> &others, const QRect &window) {
 
 } // namespace
 
+QSize RoomFor(const QWidget &window) {
+  return window.screen()->availableGeometry().marginsRemoved(UsualFrame).size();
+}
+
 double LargestZoom(const QSize &sizeAtOne, const QSize &room) {
   const double zoom = std::min(static_cast<double>(room.width()) / sizeAtOne.width(),
                                static_cast<double>(room.height()) / sizeAtOne.height());
@@ -123,6 +127,13 @@ bool StandBesideOthers(QWidget &window, const QSize &least) {
   const QPoint corner = PlaceBeside(frames, size, room);
   window.move(corner);
   return CoveredOf(frames, QRect(corner, size)) == 0;
+}
+
+void PullOntoScreen(QWidget &window) {
+  const QRect area = window.screen()->availableGeometry();
+  const QRect frame = window.frameGeometry();
+  window.move(std::max(area.left(), frame.left() - std::max(0, frame.right() - area.right())),
+              std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
 }
 
 } // namespace Tessoro::Desk

@@ -19,6 +19,8 @@ inline constexpr double ZoomStep = 0.25;
 // Below this, letters can't be read.
 inline constexpr double SmallestZoom = 0.5;
 
+// For a window on its screen, without its frame.
+QSize RoomFor(const QWidget &window);
 // At which a window of that size at a zoom of 1 just fits.
 double LargestZoom(const QSize &sizeAtOne, const QSize &room);
 // The largest whole number that fits; where not even 1 does, a step of the keys.
@@ -38,5 +40,7 @@ QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QS
 bool StandBesideOthers(QWidget &window);
 // One that may be made smaller for that.
 bool StandBesideOthers(QWidget &window, const QSize &least);
+// Moves a window that has grown so that its far corner doesn't leave the screen.
+void PullOntoScreen(QWidget &window);
 
 } // namespace Tessoro::Desk

@@ -8,12 +8,12 @@
 #include "face/qt/ReadingOrder.hpp"
 #include "face/qt/Text.hpp"
 #include "face/qt/Views.hpp"
+#include "face/qt/ZoomKeys.hpp"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QToolTip>
 
 #include <algorithm>
@@ -38,13 +38,13 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow
     menu = new FormMenu(form, surroundings.gate, this);
   MakeControls();
   OrderTabs();
-  ListenToZoomKeys();
+  ListenToZoomKeys(*this, [this](int direction) { ZoomByKey(direction); });
   endOfDrag.setSingleShot(true);
   connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);
   LayOut(1);
   sizeAtOne = SizeAtZoom();
   setMinimumSize(sizeAtOne * Desk::SmallestZoom);
-  const QSize room = RoomOfScreen();
+  const QSize room = Desk::RoomFor(*this);
   openingZoom = opener == nullptr ? Desk::OpeningZoom(sizeAtOne, room)
                                   : std::min(opener->Zoom(), Desk::LargestZoom(sizeAtOne, room));
   SetZoom(openingZoom);
@@ -120,26 +120,12 @@ void FormWindow::ComeToFront() {
   activateWindow();
 }
 
-void FormWindow::ListenToZoomKeys() {
-  const auto listen = [this](Qt::Key key, auto zoomOf) {
-    connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated,
-            this, [this, zoomOf] { ZoomByKey(zoomOf()); });
-  };
-  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal})
-    listen(key, [this] { return Desk::NextZoom(zoom, 1); });
-  listen(Qt::Key_Minus, [this] { return Desk::NextZoom(zoom, -1); });
-  listen(Qt::Key_0, [this] { return openingZoom; });
-}
-
-void FormWindow::ZoomByKey(double newZoom) {
+void FormWindow::ZoomByKey(int direction) {
   if (FillsScreen())
     return;
-  SetZoom(std::min(newZoom, Desk::LargestZoom(sizeAtOne, RoomOfScreen())));
-  // Its far corner must not leave the screen.
-  const QRect area = screen()->availableGeometry();
-  const QRect frame = frameGeometry();
-  move(std::max(area.left(), frame.left() - std::max(0, frame.right() - area.right())),
-       std::max(area.top(), frame.top() - std::max(0, frame.bottom() - area.bottom())));
+  const double newZoom = direction == 0 ? openingZoom : Desk::NextZoom(zoom, direction);
+  SetZoom(std::min(newZoom, Desk::LargestZoom(sizeAtOne, Desk::RoomFor(*this))));
+  Desk::PullOntoScreen(*this);
 }
 
 // In the middle of a screen it would leave room at all sides, and enough for another at none.
@@ -159,10 +145,6 @@ void FormWindow::OpenBesideOthers() {
     SetZoom(wished);
     Desk::StandBesideOthers(*this);
   }
-}
-
-QSize FormWindow::RoomOfScreen() const {
-  return screen()->availableGeometry().marginsRemoved(Desk::UsualFrame).size();
 }
 
 bool FormWindow::FillsScreen() const { return isMaximized() || isFullScreen(); }

@@ -57,11 +57,9 @@ private:
   void MakeControls();
   void OrderTabs();
   void GiveMenuItsAccessKeys();
-  void ListenToZoomKeys();
-  void ZoomByKey(double newZoom);
+  void ZoomByKey(int direction);
   void LayOut(double newZoom);
   QSize SizeAtZoom() const;
-  QSize RoomOfScreen() const;
   bool FillsScreen() const;
   double ZoomThatFits() const;
   void AwaitEndOfDrag();

@@ -1,6 +1,7 @@
 #include "face/qt/Program.hpp"
 
 #include "face/qt/Accessibility.hpp"
+#include "face/qt/Composition.hpp"
 #include "face/qt/Drawings.hpp"
 #include "face/qt/DrawnIcon.hpp"
 #include "face/qt/FormStyle.hpp"
@@ -43,6 +44,8 @@ void DressApplication() {
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
   QApplication::setWindowIcon(DrawnIcon(*FindDrawing("icon")));
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessoro.Tessoro"));
+  QCoreApplication *application = QCoreApplication::instance();
+  application->installEventFilter(new Composition(application));
   DescribeViewsToScreenReaders();
 }
 

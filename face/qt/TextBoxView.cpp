@@ -18,7 +18,7 @@ constexpr int WidthOfNumbers = 600; // twips
 } // namespace
 
 TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent)
-    : QLineEdit(parent), ControlView(shown, around), box(shown),
+    : EditField(parent), ControlView(shown, around), box(shown),
       holdsNumber(shown.DesignPlace().width <= WidthOfNumbers) {
   if (box.BackColor() != Colors::Navy)
     setPalette(Look::Field(box.BackColor()));
@@ -26,7 +26,6 @@ TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *pa
     setAlignment(Qt::AlignCenter);
   if (box.MaxLength() != 0)
     setMaxLength(static_cast<int>(box.MaxLength()));
-  connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) { Edited(edited); });
 }
 
 // Writing takes the cursor to the end and forgets what could be undone, so equal texts aren't

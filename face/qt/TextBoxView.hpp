@@ -2,9 +2,8 @@
 #pragma once
 
 #include "face/qt/ControlView.hpp"
+#include "face/qt/EditField.hpp"
 #include "surface/TextBox.hpp"
-
-#include <QLineEdit>
 
 class QKeyEvent;
 
@@ -12,7 +11,7 @@ namespace Tessoro {
 
 // A click into a box with a number selects it, so that the next digit begins a new one: a double
 // click has another meaning here.
-class TextBoxView : public QLineEdit, public ControlView {
+class TextBoxView : public EditField, public ControlView {
 public:
   TextBoxView(TextBox &shown, const Surroundings &around, QWidget *parent);
 
@@ -20,6 +19,7 @@ public:
 
 protected:
   void ShowContent() override;
+  void Edited(const QString &edited) override;
 
   void focusInEvent(QFocusEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
@@ -27,8 +27,6 @@ protected:
   void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-  void Edited(const QString &edited);
-
   TextBox &box;
   const bool holdsNumber;
   bool isSecondClick = false;

@@ -23,6 +23,8 @@ public:
   // Nothing if it doesn't end in time, -1 if it died by a signal.
   std::optional<int> ExitStatusWithin(std::chrono::milliseconds patience);
 
+  pid_t Id() const { return process; }
+
 private:
   pid_t process = -1;
   std::optional<int> lastStatus;

@@ -17,9 +17,9 @@ constexpr double TwipsPerPixel = 15;
 } // namespace
 
 ShownForm::ShownForm(const VirtualDisplay &shownOn, const std::string &titlePattern,
-                     const Form &itsDesign)
-    : display(shownOn), title(titlePattern), design(itsDesign),
-      window(display.WaitForWindow(title)) {
+                     const Form &itsDesign, pid_t itsOwner)
+    : display(shownOn), title(titlePattern), design(itsDesign), owner(itsOwner),
+      window(display.WaitForWindow(title, owner)) {
   Focus();
   const Area area = display.AreaOf(window);
   zoom = area.width * TwipsPerPixel / design.Design().width;

@@ -22,13 +22,14 @@ struct Share {
 // at the zoom that the window has.
 class ShownForm {
 public:
-  // Waits until there is a window under such a title.
-  ShownForm(const VirtualDisplay &shownOn, const std::string &titlePattern, const Form &itsDesign);
+  // Waits until there is a window under such a title, of one process or of whichever.
+  ShownForm(const VirtualDisplay &shownOn, const std::string &titlePattern, const Form &itsDesign,
+            pid_t itsOwner = 0);
 
   // Gives it the keyboard again, as after a message box.
   void Focus() const { display.Focus(window); }
   void Move(Point leftTop) const { display.Move(window, leftTop); }
-  void WaitUntilGone() const { display.WaitUntilGone(title); }
+  void WaitUntilGone() const { display.WaitUntilGone(title, owner); }
 
   Area WindowArea() const { return display.AreaOf(window); }
   // In the window.
@@ -54,6 +55,7 @@ private:
   const VirtualDisplay &display;
   const std::string title;
   const Form &design;
+  const pid_t owner;
   std::string window;
   double zoom = 1;
   int heightOfMenu = 0;

@@ -59,25 +59,26 @@ std::string VirtualDisplay::Do(const std::string &command) const {
   return output;
 }
 
-std::string VirtualDisplay::WindowCalled(const std::string &title) const {
-  return Do("search --onlyvisible --name '" + title + "'");
+std::string VirtualDisplay::WindowCalled(const std::string &title, pid_t owner) const {
+  const std::string ofOwner = owner == 0 ? "" : "--all --pid " + std::to_string(owner) + " ";
+  return Do("search --onlyvisible " + ofOwner + "--name '" + title + "'");
 }
 
 std::string VirtualDisplay::Titles() const {
   return Do("search --onlyvisible --name . getwindowname %@");
 }
 
-std::string VirtualDisplay::WaitForWindow(const std::string &title) const {
+std::string VirtualDisplay::WaitForWindow(const std::string &title, pid_t owner) const {
   std::string window;
   WaitFor("a window called " + title, [&] {
-    window = WindowCalled(title);
+    window = WindowCalled(title, owner);
     return !window.empty();
   });
   return window;
 }
 
-void VirtualDisplay::WaitUntilGone(const std::string &title) const {
-  WaitFor("the end of " + title, [&] { return WindowCalled(title).empty(); });
+void VirtualDisplay::WaitUntilGone(const std::string &title, pid_t owner) const {
+  WaitFor("the end of " + title, [&] { return WindowCalled(title, owner).empty(); });
 }
 
 Area VirtualDisplay::AreaOf(const std::string &window) const {
@@ -115,6 +116,8 @@ void VirtualDisplay::Focus(const std::string &window) const {
     return Do("windowraise " + window + " windowfocus " + window + " getwindowfocus") == window;
   });
 }
+
+void VirtualDisplay::BringBack(const std::string &window) const { Do("windowactivate " + window); }
 
 std::string VirtualDisplay::Focused() const { return Do("getwindowfocus"); }
 

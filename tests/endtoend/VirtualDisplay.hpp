@@ -54,18 +54,20 @@ public:
   // As ":7".
   const std::string &Name() const { return name; }
 
-  // Empty if no such window is to be seen.
-  std::string WindowCalled(const std::string &title) const;
+  // Of those of one process, or of all where none is named. Empty if no such window is to be seen.
+  std::string WindowCalled(const std::string &title, pid_t owner = 0) const;
   // The titles of all that are to be seen, a line each.
   std::string Titles() const;
-  std::string WaitForWindow(const std::string &title) const;
-  void WaitUntilGone(const std::string &title) const;
+  std::string WaitForWindow(const std::string &title, pid_t owner = 0) const;
+  void WaitUntilGone(const std::string &title, pid_t owner = 0) const;
   Area AreaOf(const std::string &window) const;
   void Move(const std::string &window, Point leftTop) const;
   // As the close control in its frame does, which it doesn't have here.
   void Close(const std::string &window) const;
   // Brings it to the front and gives it the keyboard.
   void Focus(const std::string &window) const;
+  // Of those that a window manager has put away: asks it as a task bar does.
+  void BringBack(const std::string &window) const;
   // Who has the keyboard.
   std::string Focused() const;
 

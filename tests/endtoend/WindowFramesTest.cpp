@@ -1,9 +1,10 @@
 // Windows with frames: how they behave under a window manager.
+#include "tests/endtoend/ShownMicroQ.hpp"
 #include "tests/endtoend/Waiting.hpp"
 #include "tests/endtoend/WindowManager.hpp"
 #include "tests/endtoend/WindowedEditor.hpp"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <cstdlib>
@@ -18,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr const char *MainTitle = "^Tessoro (freeware )?v[0-9]";
+constexpr const char *MicroQTitle = "^microQ";
 // Of the menu, which comes in whole pixels.
 constexpr double Tolerance = 6;
 
@@ -103,14 +105,74 @@ TEST_F(WindowFramesTest, TheProportionIsKeptThoughTheUserPausesWithTheCornerInHa
 }
 
 TEST_F(WindowFramesTest, MaximisedItFillsTheDisplayAndComesBackAsItWas) {
+  const Area cutoff = editor->MainForm().AreaOf(editor->Design().F_Tessoro.TextF1_cutoff);
   DoubleClickTitle();
   ASSERT_TRUE(
       Eventually([&] { return display->AreaOf(mainWindow).width == VirtualDisplay::Width; }, 5s));
   std::this_thread::sleep_for(500ms); // it asks for no other size
   EXPECT_EQ(display->AreaOf(mainWindow).width, VirtualDisplay::Width);
+  // What it holds has grown with it.
+  const auto grown = [zoom = Zoom()](double pixels) { return static_cast<int>(pixels * zoom); };
+  display->Click(
+      {{.x = grown(cutoff.left + cutoff.width / 2.0), .y = grown(cutoff.top + cutoff.height / 2.0)},
+       mainWindow});
+  display->PressKeys("6");
   DoubleClickTitle();
   ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
   EXPECT_TRUE(SettlesInProportion());
+  EXPECT_THAT(ShownMicroQ(*display, MicroQTitle).Lines(1),
+              testing::ElementsAre("F0 3E 10 00 20 00 00 4E 06 F7  Filter 1 cutoff = 6"));
+}
+
+TEST_F(WindowFramesTest, ItsButtonMaximisesItAndBringsItBackAsItWas) {
+  manager->Click(mainWindow, FrameButton::Maximise);
+  ASSERT_TRUE(
+      Eventually([&] { return display->AreaOf(mainWindow).width == VirtualDisplay::Width; }, 5s));
+  manager->Click(mainWindow, FrameButton::Maximise);
+  ASSERT_TRUE(Eventually([&] { return display->AreaOf(mainWindow).width == atFirst.width; }, 5s));
+  EXPECT_TRUE(SettlesInProportion());
+}
+
+TEST_F(WindowFramesTest, PutAwayItComesBackWithWhatWasTyped) {
+  const TextBox &cutoff = editor->Design().F_Tessoro.TextF1_cutoff;
+  editor->MainForm().Type(cutoff, "6");
+  const Area before = manager->FrameOf(mainWindow);
+  manager->Click(mainWindow, FrameButton::Iconify);
+  display->WaitUntilGone(MainTitle);
+  const std::string next = display->WaitForWindow(MicroQTitle);
+  WaitFor("the keyboard in the next window", [&] { return display->Focused() == next; });
+  display->BringBack(mainWindow);
+  EXPECT_EQ(display->WaitForWindow(MainTitle), mainWindow);
+  WaitFor("the keyboard", [&] { return display->Focused() == mainWindow; });
+  // It flies to its place.
+  WaitFor("the frame as it was", [&] {
+    const Area now = manager->FrameOf(mainWindow);
+    return now.left == before.left && now.top == before.top && now.width == before.width &&
+           now.height == before.height;
+  });
+  editor->MainForm().Click(cutoff, {.x = 0.3});
+  display->PressKeys("End 4");
+  EXPECT_EQ(ShownMicroQ(*display, MicroQTitle).Lines(2).back(),
+            "F0 3E 10 00 20 00 00 4E 40 F7  Filter 1 cutoff = 64");
+}
+
+TEST_F(WindowFramesTest, EveryKindOfWindowIsClosedByTheButtonInItsFrame) {
+  const auto closes = [&](const char *title) {
+    manager->Click(display->WaitForWindow(title), FrameButton::Close);
+    display->WaitUntilGone(title);
+  };
+  for (const auto &[keys, title] :
+       {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
+        std::pair{"alt+a", "^About Tessoro$"}, std::pair{"alt+m Up Return", "^MIDI settings$"}}) {
+    editor->MainForm().PressKeys(keys);
+    closes(title);
+  }
+  // With the ports shut, a change can't go out.
+  editor->MainForm().Type(editor->Design().F_Tessoro.TextF1_cutoff, "6");
+  closes("^Tessoro$");
+  closes(MicroQTitle);
+  manager->Click(mainWindow, FrameButton::Close);
+  EXPECT_EQ(editor->ExitStatus(), 0);
 }
 
 TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay) {

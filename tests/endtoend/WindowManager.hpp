@@ -10,6 +10,9 @@
 
 namespace Tessoro::Tests {
 
+// The buttons in a frame, as they stand from its right edge.
+enum class FrameButton { Close, Maximise, Iconify };
+
 class WindowManager {
 public:
   static bool IsInstalled();
@@ -24,6 +27,9 @@ public:
   Area FrameOf(const std::string &window) const;
   // Waits until one lies above the other, and tells whether it came to that.
   bool LiesAbove(const std::string &upper, const std::string &lower) const;
+
+  // Of a window that has that button, and those to its right.
+  void Click(const std::string &window, FrameButton button) const;
 
   // Moves the lower right corner of the frame in so many steps, with a pause after each.
   void DragCorner(const std::string &window, Point way, int steps,

@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <fstream>
+#include <iterator>
+
 namespace Tessoro::Tests {
 namespace {
 
@@ -119,6 +122,42 @@ TEST_F(WindowPortsTest, AKeyboardThatGoesUnderTheOpenFormIsToldOnceAndTheRestWor
   OpenPortsAgain();
   keyboard->Play(Note(60, 100));
   EXPECT_THAT(Hear(1), ElementsAre(Note(60, 100)));
+}
+
+// They have the settings in common, and the one that is closed last leaves its own.
+TEST_F(WindowPortsTest, TwoEditorsOnOneDisplayAndInOneFolderSendToTheirOwnPorts) {
+  Synth second("second");
+  LetTheNewsPass();
+  WindowedEditor other(display, place);
+  other.MainForm();
+  const int steps = NumberOfOut("second:in") - PlaceOfSynth();
+  other.OpenPortFormByMenu();
+  const ShownForm portForm = other.PortForm();
+  portForm.Step(other.Design().F_Midi.AuswahlMIDIPort, steps);
+  ClickClose(portForm);
+  portForm.WaitUntilGone();
+  const auto type = [](const WindowedEditor &which, const std::string &digit) {
+    which.MainForm().Type(which.Design().F_Tessoro.TextF1_cutoff, digit);
+  };
+  type(*editor, "6");
+  type(other, "7");
+  editor->MainForm().Type(editor->Design().F_Tessoro.TextF1_reso, "8");
+  EXPECT_THAT(Hear(2), ElementsAre(Parameter(78, 6), Parameter(80, 8)));
+  EXPECT_TRUE(Eventually([&] { return second.Count() > 0; }));
+  EXPECT_THAT(second.Messages(), ElementsAre(Parameter(78, 7)));
+
+  std::string settings = SettingsWithPorts(NumberOfOut("second:in"), PlaceOfKeyboard());
+  const std::string notYetUsed = "\"\",\"\"";
+  settings.replace(settings.find(notYetUsed), notYetUsed.size(),
+                   "\"Tessoro freeware version\",\"1.3\"");
+  editor->CloseMainWindow();
+  EXPECT_EQ(editor->ExitStatus(), 0);
+  type(other, "9");
+  EXPECT_TRUE(Eventually([&] { return second.Count() > 1; }));
+  other.CloseMainWindow();
+  EXPECT_EQ(other.ExitStatus(), 0);
+  std::ifstream file(place.Settings(), std::ios::binary);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), settings);
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 // What can happen to the real program on a real display.
+#include "tests/endtoend/ShownMicroQ.hpp"
 #include "tests/endtoend/Waiting.hpp"
 #include "tests/endtoend/WindowedEditor.hpp"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -79,6 +81,21 @@ TEST_F(WindowSurprises, ADeadKeyAndItsLetterBecomeOneCharacter) {
   WindowedEditor editor(desk.display, desk.place, {"LC_ALL=C.UTF-8"});
   OpenFileForm(editor).Type(editor.Design().F_FileIO.TextFilename, "c a f dead_acute e");
   desk.display.WaitForWindow("^Open .*/caf\u00E9$");
+  editor.QuitByMenu();
+  EXPECT_EQ(editor.ExitStatus(), 0);
+}
+
+TEST_F(WindowSurprises, AComposeKeyAndTwoOthersBecomeOneCharacter) {
+  const Desk desk;
+  OutputOf("DISPLAY=" + desk.display.Name() + " setxkbmap us -option compose:menu");
+  WindowedEditor editor(desk.display, desk.place, {"LC_ALL=C.UTF-8"});
+  OpenFileForm(editor).Type(editor.Design().F_FileIO.TextFilename, "c a f Multi_key apostrophe e");
+  desk.display.WaitForWindow("^Open .*/caf\u00E9$");
+  // Of a sequence that is broken off nothing comes.
+  editor.MainForm().Type(editor.Design().F_Tessoro.TextF1_cutoff, "7 Multi_key apostrophe Tab 9");
+  EXPECT_THAT(ShownMicroQ(desk.display, "^microQ").Lines(2),
+              testing::ElementsAre("F0 3E 10 00 20 00 00 4E 07 F7  Filter 1 cutoff = 7",
+                                   "F0 3E 10 00 20 00 00 50 09 F7  Filter 1 resonance = 9"));
   editor.QuitByMenu();
   EXPECT_EQ(editor.ExitStatus(), 0);
 }

@@ -68,27 +68,31 @@ WindowedEditor::~WindowedEditor() {
   }
 }
 
-ShownForm WindowedEditor::MainForm() const { return {display, MainTitle, Design().F_Tessoro}; }
+ShownForm WindowedEditor::MainForm() const { return Shown(MainTitle, Design().F_Tessoro); }
 
-ShownForm WindowedEditor::PortForm() const { return {display, "^MIDI settings$", Design().F_Midi}; }
+ShownForm WindowedEditor::PortForm() const { return Shown("^MIDI settings$", Design().F_Midi); }
 
-ShownForm WindowedEditor::FileForm() const { return {display, "^Open", Design().F_FileIO}; }
+ShownForm WindowedEditor::FileForm() const { return Shown("^Open", Design().F_FileIO); }
 
-ShownForm WindowedEditor::Hint() const { return {display, "^Tessoro info$", Design().F_InfoPopUp}; }
+ShownForm WindowedEditor::Hint() const { return Shown("^Tessoro info$", Design().F_InfoPopUp); }
+
+ShownForm WindowedEditor::Shown(const std::string &title, const Form &form) const {
+  return {display, title, form, program->Id()};
+}
 
 void WindowedEditor::AnswerBox(const std::string &title, const std::string &key) const {
   const std::string pattern = "^" + title + "$";
-  const std::string box = display.WaitForWindow(pattern);
+  const std::string box = display.WaitForWindow(pattern, program->Id());
   display.Focus(box);
   display.PressKeys(key);
   WaitFor("the end of the box " + title, [&] {
-    const std::string next = display.WindowCalled(pattern);
+    const std::string next = display.WindowCalled(pattern, program->Id());
     return next != box;
   });
 }
 
 bool WindowedEditor::ShowsBox(const std::string &title) const {
-  return !display.WindowCalled("^" + title + "$").empty();
+  return !display.WindowCalled("^" + title + "$", program->Id()).empty();
 }
 
 void WindowedEditor::CloseHint() const {
@@ -108,7 +112,9 @@ void WindowedEditor::ChoosePorts(int outPort, int inPort) const {
   form.WaitUntilGone();
 }
 
-void WindowedEditor::CloseMainWindow() const { display.Close(display.WaitForWindow(MainTitle)); }
+void WindowedEditor::CloseMainWindow() const {
+  display.Close(display.WaitForWindow(MainTitle, program->Id()));
+}
 
 void WindowedEditor::QuitByMenu() const { MainForm().PressKeys("alt+f q"); }
 

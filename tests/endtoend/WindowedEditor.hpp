@@ -67,6 +67,8 @@ public:
   std::optional<int> ExitStatus();
 
 private:
+  ShownForm Shown(const std::string &title, const Form &form) const;
+
   const VirtualDisplay &display;
   const TestRun design;
   std::unique_ptr<ChildProcess> program;

@@ -107,6 +107,78 @@ TEST_F(SurprisesTest, AnInputMethodWritesWhatTheModelCanHold) {
   EXPECT_EQ(WidgetOf<QLineEdit>(bench.Name).text(), QStringLiteral("??"));
 }
 
+// The toolkit hands over what stands there as it takes the focus away.
+TEST_F(SurprisesTest, WhatIsHalfComposedIsForgottenWithTheFocus) {
+  QWidget *field = Focused(bench.Name);
+  Compose(field, QString::fromUtf8("´"));
+  Compose(field, {}, QString::fromUtf8("´"));
+  Focus(bench.Box);
+  LetPass(1);
+  EXPECT_THAT(Heard(), IsEmpty());
+  EXPECT_EQ(WidgetOf<QLineEdit>(bench.Name).text(), QString());
+}
+
+TEST_F(SurprisesTest, WhatAMethodHandsOverAsItStandsCountsWhenTheFocusStays) {
+  QWidget *field = Focused(bench.Name);
+  Compose(field, QString::fromUtf8("é"));
+  Compose(field, {}, QString::fromUtf8("é"));
+  LetPass(1);
+  EXPECT_THAT(Heard(), ElementsAre("Name Change \xE9"));
+}
+
+TEST_F(SurprisesTest, WhatAMethodHandsOverComesBeforeTheNextKey) {
+  QWidget *field = Focused(bench.Name);
+  Compose(field, QString::fromUtf8("é"));
+  Compose(field, {}, QString::fromUtf8("é"));
+  QTest::keyClick(field, Qt::Key_A);
+  EXPECT_EQ(bench.Name.Text(), "\xE9"
+                               "a");
+}
+
+TEST_F(SurprisesTest, WhatIsHalfComposedIsForgottenWhenTheCursorMoves) {
+  bench.Name.SetText("ab");
+  QWidget *field = Focused(bench.Name);
+  static_cast<QLineEdit *>(field)->setCursorPosition(2);
+  Heard();
+  Compose(field, QString::fromUtf8("´"));
+  Compose(field, {}, QString::fromUtf8("´"));
+  static_cast<QLineEdit *>(field)->setCursorPosition(0);
+  LetPass(1);
+  EXPECT_THAT(Heard(), IsEmpty());
+  EXPECT_EQ(WidgetOf<QLineEdit>(bench.Name).text(), QStringLiteral("ab"));
+}
+
+TEST_F(SurprisesTest, AMethodThatHandsOverLateDoesNotTypeIntoTheNextField) {
+  bench.Box.SetText("");
+  Heard();
+  Compose(Focused(bench.Name), QString::fromUtf8("한"));
+  QWidget *next = Focused(bench.Box);
+  Compose(next, {}, QString::fromUtf8("한"));
+  EXPECT_THAT(Heard(), IsEmpty());
+  Compose(next, QString::fromUtf8("한"));
+  Compose(next, {}, QString::fromUtf8("한"));
+  LetPass(1);
+  EXPECT_THAT(Heard(), ElementsAre("Box Change ?"));
+}
+
+TEST_F(SurprisesTest, ATextComposedOverAnotherTakesItsPlaceAtOnceOrNotAtAll) {
+  for (Control *control : std::initializer_list<Control *>{&bench.Name, &bench.Combo}) {
+    auto &field = WidgetOf<QLineEdit>(*control);
+    Focus(*control);
+    QTest::keyClicks(&field, QStringLiteral("old"));
+    Heard();
+    field.selectAll();
+    Compose(&field, QString::fromUtf8("´"));
+    EXPECT_THAT(Heard(), IsEmpty()) << control->Name();
+    Compose(&field, {});
+    EXPECT_EQ(field.text(), QStringLiteral("old")) << control->Name();
+    EXPECT_EQ(field.selectedText(), QStringLiteral("old")) << control->Name();
+    Compose(&field, QString::fromUtf8("´"));
+    Compose(&field, {}, QString::fromUtf8("é"));
+    EXPECT_THAT(Heard(), ElementsAre(control->Name() + " Change \xE9"));
+  }
+}
+
 TEST_F(SurprisesTest, ACompositionIsCutOffByABox) {
   QWidget *field = Focused(bench.Name);
   Compose(field, QString::fromUtf8("´"));

@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,28 @@ TEST_F(MicroQWindowTest, ClearEmptiesTheListAndLeavesTheBuffer) {
   window.Refresh();
   EXPECT_EQ(window.Messages().rowCount(), 1);
   EXPECT_EQ(microQ.State().parameters[78], 64);
+}
+
+TEST_F(MicroQWindowTest, KeysZoomItAsTheyZoomAForm) {
+  window.resize(760, 500);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto *list = window.findChild<QTreeView *>();
+  const QSize before = window.size();
+  const int letters = list->fontInfo().pixelSize();
+  const int lines = list->sizeHintForRow(0);
+  QTest::keyClick(&window, Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(window.Zoom(), 0.75);
+  EXPECT_EQ(window.width(), before.width() * 3 / 4);
+  EXPECT_NEAR(list->fontInfo().pixelSize(), letters * 0.75, 1);
+  EXPECT_LE(list->sizeHintForRow(0), lines);
+  QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(window.Zoom(), 1);
+  EXPECT_EQ(list->fontInfo().pixelSize(), letters);
+  // No larger than its columns have room for on the screen.
+  QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_LT(window.Zoom(), 1.25);
+  EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
 }
 
 TEST_F(MicroQWindowTest, CopyPutsTheLinesOnTheClipboard) {

@@ -1,0 +1,38 @@
+#include "face/qt/EditField.hpp"
+
+#include <QInputMethodEvent>
+
+#include <utility>
+
+namespace Tessoro {
+
+EditField::EditField(QWidget *parent) : QLineEdit(parent) {
+  connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) {
+    if (!isHalfComposed)
+      Edited(edited);
+  });
+}
+
+void EditField::inputMethodEvent(QInputMethodEvent *event) {
+  const bool wasHalfComposed = isHalfComposed;
+  const bool isFinished = !event->commitString().isEmpty();
+  isHalfComposed = !isFinished && !event->preeditString().isEmpty();
+  if (isHalfComposed && !wasHalfComposed)
+    replaced = {text(), selectionStart(), selectionLength()};
+  QLineEdit::inputMethodEvent(event);
+  if (wasHalfComposed && !isHalfComposed && !isFinished)
+    Restore();
+}
+
+// A method may also take away what stands there half composed before it hands over the whole, so
+// the text is selected again.
+void EditField::Restore() {
+  const Selection before = std::exchange(replaced, {});
+  if (before.start < 0 ||
+      text() != QString(before.whole).remove(before.start, before.length)) // written by code
+    return;
+  setText(before.whole);
+  setSelection(before.start, before.length);
+}
+
+} // namespace Tessoro
