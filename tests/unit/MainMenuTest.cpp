@@ -59,6 +59,7 @@ TEST(MainMenu, StandsAsItWasDesigned) {
       entries.push_back(static_cast<const Menu *>(control));
   const auto names = [](const auto &tree, const auto &nameOf) {
     std::vector<std::string> all;
+    all.reserve(std::size(tree));
     for (const auto &entry : tree)
       all.emplace_back(nameOf(entry));
     return all;
