@@ -6,7 +6,7 @@ packagesToBuild=(
   qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libfontconfig-dev librtmidi-dev libjack-jackd2-dev)
 packagesToRun=(fonts-dejavu-core)
 packagesToTest=(libgtest-dev libgmock-dev libxcb1-dev jackd2 xvfb xdotool openbox
-  xclip x11-xkb-utils dbus at-spi2-core ibus ibus-hangul)
+  xclip x11-xkb-utils dbus at-spi2-core ibus ibus-hangul python3)
 packagesToBench=(libbenchmark-dev jackd2 xvfb)
 # llvm says where in the source a report of a sanitizer points to.
 packagesToSanitize=(clang libclang-rt-dev llvm)

@@ -41,6 +41,14 @@ void LetTimePass(int milliseconds) {
   loop.exec();
 }
 
+// The platform without a display says of windows that they can't have a least size, which harms no
+// picture.
+void TellWhatMatters(QtMsgType /*type*/, const QMessageLogContext & /*place*/,
+                     const QString &message) {
+  if (!message.contains(QLatin1String("propagateSizeHints")))
+    std::fprintf(stderr, "tessoro-pictures: %s\n", qPrintable(message));
+}
+
 // Nobody is there to answer a message box.
 void AnswerBox() {
   auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -160,6 +168,7 @@ int main(int argc, char *argv[]) {
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(&TellWhatMatters);
   const QApplication application(argc, argv);
   DressApplication();
   const QDir folder(QString::fromLocal8Bit(argv[1]));

@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -96,13 +97,13 @@ TEST_F(ServiceAlsaTest, PortsOfProgramsAndCardsAreListedByName) {
   EXPECT_THAT(outs, Contains(Card));
   EXPECT_THAT(outs, Contains("synth:in"));
   EXPECT_THAT(outs, Not(Contains("keyboard:out")));
-  EXPECT_EQ(outs.back(), "microQ (built-in)");
+  EXPECT_THAT(outs, Contains("microQ (built-in)"));
   const std::vector<std::string> ins = InNames(*service);
   EXPECT_THAT(ins, Contains(Through));
   EXPECT_THAT(ins, Contains(Card));
   EXPECT_THAT(ins, Contains("keyboard:out"));
   EXPECT_THAT(ins, Not(Contains("synth:in")));
-  EXPECT_EQ(ins.back(), "Silence (built-in)");
+  EXPECT_THAT(ins, Contains("Silence (built-in)"));
 }
 
 TEST_F(ServiceAlsaTest, OwnPortsAreNotListed) {
@@ -204,7 +205,7 @@ TEST_F(ServiceAlsaTest, AnUnloadedModuleTakesItsPortsAlong) {
 }
 
 // The rights are those of the program's user, so it is tried in a process of its own.
-TEST_F(ServiceAlsaTest, WithoutTheRightToTheSequencerOnlyTheBuiltInDevicesAreThereQuietly) {
+TEST_F(ServiceAlsaTest, WithoutTheRightToTheSequencerItsPortsAreQuietlyAway) {
   std::array<int, 2> complaints{};
   ASSERT_EQ(pipe(complaints.data()), 0);
   const pid_t process = fork();
@@ -213,9 +214,11 @@ TEST_F(ServiceAlsaTest, WithoutTheRightToTheSequencerOnlyTheBuiltInDevicesAreThe
     close(complaints[1]);
     const bool isNobody = setgid(Nobody) == 0 && setuid(Nobody) == 0;
     const auto ofNobody = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
-    const bool isRight = isNobody &&
-                         OutNames(*ofNobody) == std::vector<std::string>{"microQ (built-in)"} &&
-                         InNames(*ofNobody) == std::vector<std::string>{"Silence (built-in)"};
+    const auto lack = [](const std::vector<std::string> &names) {
+      return !names.empty() && std::ranges::count(names, Through) == 0 &&
+             std::ranges::count(names, Card) == 0;
+    };
+    const bool isRight = isNobody && lack(OutNames(*ofNobody)) && lack(InNames(*ofNobody));
     _exit(isRight ? 0 : 1);
   }
   close(complaints[1]);

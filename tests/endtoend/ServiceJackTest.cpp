@@ -4,7 +4,7 @@
 #include "tests/endtoend/JackServer.hpp"
 #include "tests/endtoend/ServiceCalls.hpp"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <chrono>
@@ -16,6 +16,15 @@
 
 namespace Tessoro::Tests {
 namespace {
+
+using testing::Contains;
+using testing::Not;
+
+// Whatever stands before, between and behind them.
+MATCHER_P2(HasInOrder, first, second, "") {
+  const auto found = std::ranges::find(arg, first);
+  return std::find(found, arg.end(), second) != arg.end();
+}
 
 bool IsChange(const Bytes &bytes) { return bytes.front() == 0xF0; }
 
@@ -38,8 +47,10 @@ protected:
 TEST_F(ServiceJackTest, ListsTheServersPortsBeforeTheBuiltInDevices) {
   Plug(synths, "synth");
   Plug(keyboards, "keyboard");
-  EXPECT_EQ(OutNames(*service), (std::vector<std::string>{"synth:in", "microQ (built-in)"}));
-  EXPECT_EQ(InNames(*service), (std::vector<std::string>{"keyboard:out", "Silence (built-in)"}));
+  EXPECT_THAT(OutNames(*service), HasInOrder("synth:in", "microQ (built-in)"));
+  EXPECT_THAT(OutNames(*service), Not(Contains("keyboard:out")));
+  EXPECT_THAT(InNames(*service), HasInOrder("keyboard:out", "Silence (built-in)"));
+  EXPECT_THAT(InNames(*service), Not(Contains("synth:in")));
 
   MIDIOUTCAPS record;
   ASSERT_EQ(service->midiOutGetDevCapsA(0, record, 52), 0U);
@@ -50,10 +61,11 @@ TEST_F(ServiceJackTest, ListsTheServersPortsBeforeTheBuiltInDevices) {
 TEST_F(ServiceJackTest, NeverListsItsOwnPorts) {
   Plug(synths, "synth");
   Plug(keyboards, "keyboard");
-  const MidiHandle out = OpenOut(*service, "synth:in");
-  OpenThru(*service, "keyboard:out", out);
-  EXPECT_EQ(OutNames(*service), (std::vector<std::string>{"synth:in", "microQ (built-in)"}));
-  EXPECT_EQ(InNames(*service), (std::vector<std::string>{"keyboard:out", "Silence (built-in)"}));
+  const std::vector<std::string> outs = OutNames(*service);
+  const std::vector<std::string> ins = InNames(*service);
+  OpenThru(*service, "keyboard:out", OpenOut(*service, "synth:in"));
+  EXPECT_EQ(OutNames(*service), outs);
+  EXPECT_EQ(InNames(*service), ins);
 }
 
 TEST_F(ServiceJackTest, AChangeArrivesAsItsTenBytes) {
@@ -259,7 +271,8 @@ TEST_F(ServiceJackTest, AServerThatDiesMakesSendsFailUntilItIsBack) {
   server.Kill();
   ASSERT_TRUE(Eventually([&] { return SendLong(*service, out, Change(2, 2)) != 0; }));
   EXPECT_EQ(SendLong(*service, out, Change(2, 2)), MidiResultCode::NoDevice);
-  EXPECT_EQ(OutNames(*service), (std::vector<std::string>{"microQ (built-in)"}));
+  EXPECT_THAT(OutNames(*service), Not(Contains("synth:in")));
+  EXPECT_THAT(OutNames(*service), Contains("microQ (built-in)"));
 
   server.Start();
   synth = std::make_unique<Synth>("synth");
@@ -320,8 +333,8 @@ TEST(ServiceWithoutJackTest, OnlyTheBuiltInDevicesAreThereAndNothingIsPrinted) {
   testing::internal::CaptureStdout();
   {
     const auto service = MakeMachineMidiService(std::make_shared<BuiltinMicroQ>());
-    EXPECT_EQ(OutNames(*service).back(), "microQ (built-in)");
-    EXPECT_EQ(InNames(*service).back(), "Silence (built-in)");
+    EXPECT_THAT(OutNames(*service), Contains("microQ (built-in)"));
+    EXPECT_THAT(InNames(*service), Contains("Silence (built-in)"));
   }
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");

@@ -54,7 +54,8 @@ void ExpectSame(const char *what, const Lines &expected, const Lines &actual) {
     return;
   ADD_FAILURE() << what << " " << left - expected.begin() + 1 << ": expected "
                 << (left == expected.end() ? "none" : *left) << ", got "
-                << (right == actual.end() ? "none" : *right);
+                << (right == actual.end() ? "none" : *right)
+                << "; lines*.txt, dump.txt and controls.txt in tests/files/ tell what must be";
 }
 
 // The editor, and what the tables say of it, side by side.

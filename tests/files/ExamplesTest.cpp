@@ -6,6 +6,8 @@
 
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <string>
 
 namespace Tessoro::Tests {
 namespace {
@@ -29,6 +31,20 @@ protected:
   std::string Saved() {
     WriteSound(run.app, "/saved.tss");
     return run.files.contents["/saved.tss"];
+  }
+
+  // What the boxes, lists and bars of the main form hold, by name.
+  std::map<std::string, std::string> Shown() const {
+    std::map<std::string, std::string> shown;
+    for (const Control *control : run.app.F_Tessoro.Controls()) {
+      if (const auto *box = dynamic_cast<const TextBox *>(control))
+        shown[box->Name()] = box->Text();
+      else if (const auto *list = dynamic_cast<const ComboBox *>(control))
+        shown[list->Name()] = list->Text();
+      else if (const auto *bar = dynamic_cast<const ScrollBar *>(control))
+        shown[bar->Name()] = std::to_string(bar->Value());
+    }
+    return shown;
   }
 
   TestRun run;
@@ -57,6 +73,18 @@ TEST_F(ExampleSoundsTest, DumpOfThePadIsThePad) {
   std::erase(sound, '"');
   std::erase(import, '"');
   EXPECT_EQ(sound, import);
+}
+
+// Also what no line of a sound file holds and only a dump and an init set.
+TEST_F(ExampleSoundsTest, DumpOfThePadLeavesEachControlAsAnInitAndThePadDo) {
+  run.app.F_Tessoro.InitPanelParams();
+  Open("pad.tss");
+  run.app.F_Tessoro.CheckNoisemute.SetValue(0);
+  const std::map<std::string, std::string> sound = Shown();
+  Open("pad.syx");
+  for (const auto &[control, content] : Shown())
+    EXPECT_EQ(content, sound.at(control))
+        << control << "; tools/rewrite-examples makes examples/pad.syx anew";
 }
 
 } // namespace

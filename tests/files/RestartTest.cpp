@@ -112,11 +112,11 @@ TEST(RestartTest, SoundIsInTheSynthesizerAgain) {
     SCOPED_TRACE(number);
     const int expected = before.parameters[number];
     if (withoutLine.contains(number) || stored.contains(number))
-      EXPECT_EQ(after.parameters[number], -1) << "nobody told it";
+      EXPECT_EQ(after.parameters[number], -1) << "nobody told it; withoutLine and stored above";
     else if (number >= firstStep && number <= lastStep)
       EXPECT_EQ(after.parameters[number], expected + flagOfStep);
     else
-      EXPECT_EQ(after.parameters[number], expected);
+      EXPECT_EQ(after.parameters[number], expected) << "withoutLine above, if no line holds it";
   }
   EXPECT_EQ(second.app.F_Tessoro.Caption(), "Tessoro v1.3.1 - mine.tss");
 }

@@ -15,8 +15,11 @@ RandomUser::RandomUser(Session &editor, Generator &generator, const Files &machi
     fileNames.push_back(name);
   for (const Form *form : session.App.Forms())
     for (const Control *control : form->Controls())
-      if (const auto *entry = dynamic_cast<const Menu *>(control))
+      if (const auto *entry = dynamic_cast<const Menu *>(control)) {
         menus.push_back(entry);
+        if (!entry->Shortcut().empty())
+          shortcuts.emplace_back(entry->Shortcut());
+      }
   Begin();
 }
 
@@ -196,8 +199,6 @@ std::string RandomUser::ActOnForm() {
 }
 
 std::string RandomUser::ActOnMenu() {
-  static const std::string shortcuts[] = {"Ctrl+O", "Ctrl+S", "F12",    "F11",    "Ctrl+Q",
-                                          "Ctrl+L", "Ctrl+M", "Ctrl+N", "Ctrl+G", "Ctrl+X"};
   if (OnceIn(random, 3))
     return "shortcut \"" + DrawOf(random, shortcuts) + "\"";
   const std::string &name = DrawOf(random, menus)->Name();

@@ -44,6 +44,7 @@ private:
   Generator &random;
   std::vector<std::string> fileNames;
   std::vector<const Menu *> menus;
+  std::vector<std::string> shortcuts;
   // What the user is about to do whatever comes of it.
   std::deque<std::string> planned;
 };

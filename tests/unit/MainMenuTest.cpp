@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+#include <vector>
+
 namespace Tessoro {
 namespace {
 
@@ -53,7 +57,16 @@ TEST(MainMenu, StandsAsItWasDesigned) {
   for (const Control *control : run.app.F_Tessoro.Controls())
     if (control->Type() == ControlType::Menu)
       entries.push_back(static_cast<const Menu *>(control));
-  ASSERT_EQ(entries.size(), std::size(Tree));
+  const auto names = [](const auto &tree, const auto &nameOf) {
+    std::vector<std::string> all;
+    all.reserve(std::size(tree));
+    for (const auto &entry : tree)
+      all.emplace_back(nameOf(entry));
+    return all;
+  };
+  ASSERT_EQ(names(entries, [](const Menu *entry) { return entry->Name(); }),
+            names(Tree, [](const Entry &entry) { return entry.name; }))
+      << "Tree above tells of each entry";
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const Menu &entry = *entries[i];
     const Entry &expected = Tree[i];
@@ -65,6 +78,18 @@ TEST(MainMenu, StandsAsItWasDesigned) {
     EXPECT_EQ(entry.Enabled(), expected.enabled) << expected.name;
     EXPECT_EQ(entry.Visible(), expected.visible) << expected.name;
   }
+}
+
+TEST(MainMenu, HasNoKeysForTwoEntries) {
+  const TestRun run;
+  std::map<std::string, std::string> entries;
+  for (const Control *control : run.app.F_Tessoro.Controls())
+    if (const auto *entry = dynamic_cast<const Menu *>(control);
+        entry != nullptr && !entry->Shortcut().empty()) {
+      const auto [first, isNew] = entries.emplace(entry->Shortcut(), entry->Name());
+      EXPECT_TRUE(isNew) << entry->Shortcut() << " opens " << first->second << " and "
+                         << entry->Name();
+    }
 }
 
 TEST(MainMenu, ThePointerIsAnHourglassWhileThePortsFormLoads) {
