@@ -31,9 +31,9 @@ namespace {
 // In pixels at a zoom of 1.
 constexpr QSize UsualSize(1080, 560);
 // Below it, the columns of its lists would be cut too much.
-constexpr QSize LeastSize(740, 380);
+constexpr QSize LeastSize(740, 350);
 // Larger letters aren't worth cutting any of them.
-constexpr QSize LeastSizeWhenZoomed(900, 380);
+constexpr QSize LeastSizeWhenZoomed(900, 350);
 constexpr double Margin = 10;
 constexpr double Gap = 6;
 constexpr double RoomAround = 22; // texts of buttons

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 #include <array>
@@ -36,6 +37,16 @@ std::vector<QWidget *> WindowsBut(const QWidget &window) {
       others.push_back(each);
   std::sort(others.begin(), others.end(), IsLargerOrInFront);
   return others;
+}
+
+// The window manager puts the frame around a window as it shows it.
+QRect FrameOf(const QWidget &window) {
+  const QWindow *handle = window.windowHandle();
+  const bool isYetToCome = handle != nullptr && !handle->isExposed();
+  const QRect frame = window.frameGeometry();
+  return isYetToCome && frame.size() == window.size()
+             ? QRect(frame.topLeft(), frame.marginsAdded(UsualFrame).size())
+             : frame;
 }
 
 qint64 CoveredOf(const std::vector<QRect> &others, const QRect &window) {
@@ -116,10 +127,9 @@ bool StandBesideOthers(QWidget &window, const QSize &least) {
   std::vector<QRect> frames;
   frames.reserve(others.size());
   for (const QWidget *other : others)
-    frames.push_back(other->frameGeometry());
-  const QSize frame = others.empty()
-                          ? QRect().marginsAdded(UsualFrame).size()
-                          : others.front()->frameGeometry().size() - others.front()->size();
+    frames.push_back(FrameOf(*other));
+  const QSize frame = others.empty() ? QRect().marginsAdded(UsualFrame).size()
+                                     : frames.front().size() - others.front()->size();
   const QWidget &neighbour = others.empty() ? window : *others.front();
   const QRect room = neighbour.screen()->availableGeometry();
   const QSize size = SizeBeside(frames, window.size() + frame, least + frame, room);

@@ -175,6 +175,10 @@ TEST_F(WindowFramesTest, EveryKindOfWindowIsClosedByTheButtonInItsFrame) {
   EXPECT_EQ(editor->ExitStatus(), 0);
 }
 
+TEST_F(WindowFramesTest, AMicroQThatIsThereFromTheStartStandsBesideTheMainWindow) {
+  ExpectBesideMainForm(display->WaitForWindow(MicroQTitle));
+}
+
 TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay) {
   for (const auto &[keys, title] :
        {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
