@@ -8,6 +8,8 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace Tessoro {
 
 namespace {
@@ -74,9 +76,9 @@ void MicroQList::MakeColumnFit(int column, const QString &text) {
 }
 
 void MicroQList::MakeColumnFit(int column, const QString &text, const QFont &fontOfColumn) {
-  constexpr double roomAround = 16;
+  constexpr double roomAround = 16; // the toolkit's own margins, which don't shrink, are in it
   header()->resizeSection(column, QFontMetrics(fontOfColumn).horizontalAdvance(text) +
-                                      qRound(roomAround * scale.zoom));
+                                      qRound(roomAround * std::max(scale.zoom, 1.0)));
 }
 
 } // namespace Tessoro

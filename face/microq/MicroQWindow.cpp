@@ -71,16 +71,22 @@ MicroQWindow::MicroQWindow(const BuiltinMicroQ &microQ, MessageInbox &messageInb
 
 MicroQWindow::~MicroQWindow() { inbox.SetBell({}); }
 
+// On a small screen, shorter lists are better than smaller letters.
 void MicroQWindow::OpenAlone() {
-  openingZoom = Desk::OpeningZoom(UsualSize, Desk::RoomFor(*this));
+  const QSize room = Desk::RoomFor(*this);
+  openingZoom = std::max(Desk::OpeningZoom(UsualSize, room),
+                         std::min(1.0, Desk::OpeningZoom(LeastSize, room)));
   SetZoom(openingZoom);
+  TakeUsualSize();
 }
+
+void MicroQWindow::TakeUsualSize() { resize((UsualSize * zoom).boundedTo(Desk::RoomFor(*this))); }
 
 // Letters that are larger than usual aren't worth covering a form.
 void MicroQWindow::OpenBesideOthers() {
   OpenAlone();
   const auto standsBeside = [this] {
-    resize(UsualSize * zoom);
+    TakeUsualSize();
     return Desk::StandBesideOthers(*this, (zoom > 1 ? LeastSizeWhenZoomed : LeastSize) * zoom);
   };
   while (!standsBeside() && Desk::NextZoom(zoom, -1) >= 1)

@@ -62,6 +62,7 @@ protected:
   void hideEvent(QHideEvent *event) override;
 
 private:
+  void TakeUsualSize();
   void ZoomByKey(int direction);
   void LayOut();
   QLabel *MakeHeading(const QString &text);

@@ -107,6 +107,7 @@ bool DrawMicroQ(Application &editor, const QDir &folder) {
   QWidget *window = WindowOfMicroQ();
   if (window == nullptr)
     return true;
+  window->resize(1080, 560); // whatever fits the screen that isn't there
   LetTimePass(FadingMilliseconds);
   F_Tessoro &form = editor.F_Tessoro;
   form.NoteC3.UserMouseDown({});

@@ -1,4 +1,5 @@
 #include "face/microq/MicroQWindow.hpp"
+#include "face/microq/BufferModel.hpp"
 #include "face/microq/ScreenPace.hpp"
 #include "face/microq/WatchedMicroQ.hpp"
 #include "service/builtin/BuiltinSource.hpp"
@@ -17,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tessoro::Tests {
@@ -101,6 +103,27 @@ TEST_F(MicroQWindowTest, KeysZoomItAsTheyZoomAForm) {
   QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
   EXPECT_LT(window.Zoom(), 1.25);
   EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
+}
+
+// The screen of this test is 800 pixels wide.
+TEST_F(MicroQWindowTest, ASmallScreenShortensItAndLeavesItsLettersAsTheyAre) {
+  window.OpenAlone();
+  EXPECT_EQ(window.Zoom(), 1);
+  EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
+}
+
+TEST_F(MicroQWindowTest, SmallLettersAreNotCut) {
+  const auto roomAroundNumbers = [this] {
+    const QList<QTreeView *> lists = window.findChildren<QTreeView *>();
+    const QTreeView *list = *std::find_if(lists.begin(), lists.end(), [](const QTreeView *each) {
+      return each->accessibleName() == QStringLiteral("Edit buffer");
+    });
+    return list->columnWidth(BufferModel::Number) -
+           list->fontMetrics().horizontalAdvance(QStringLiteral("CC 68"));
+  };
+  const int atOne = roomAroundNumbers();
+  window.SetZoom(0.5);
+  EXPECT_EQ(roomAroundNumbers(), atOne);
 }
 
 TEST_F(MicroQWindowTest, CopyPutsTheLinesOnTheClipboard) {
