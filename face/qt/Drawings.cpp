@@ -139,8 +139,10 @@ void DrawMosaic(QPainter &painter, const Mosaic &mosaic, const QPainterPath &env
                                      QColor(35, 35, 171)};
   painter.setPen(Qt::NoPen);
   for (std::size_t i = 0; i < mosaic.tiles.size(); ++i) {
-    const QPointF corner(mosaic.firstTile + mosaic.pitch * static_cast<double>(i % mosaic.columns),
-                         mosaic.firstTile + mosaic.pitch * static_cast<double>(i / mosaic.columns));
+    const std::size_t column = i % mosaic.columns;
+    const std::size_t row = i / mosaic.columns;
+    const QPointF corner(mosaic.firstTile + mosaic.pitch * static_cast<double>(column),
+                         mosaic.firstTile + mosaic.pitch * static_cast<double>(row));
     painter.setBrush(shades.at(static_cast<std::size_t>(mosaic.tiles[i] - '0')));
     painter.drawRoundedRect(QRectF(corner, QSizeF(mosaic.tile, mosaic.tile)), 0.14 * mosaic.tile,
                             0.14 * mosaic.tile);
