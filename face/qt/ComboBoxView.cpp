@@ -33,7 +33,7 @@ void ComboBoxView::ShowContent() {
   const QString shown = FromModel(combo.Text());
   if (shown == text())
     return;
-  setText(shown);
+  Write(shown);
   if (!isBeingTyped)
     home(false);
 }

@@ -9,6 +9,8 @@
 namespace Tessoro {
 
 bool Composition::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == WriteByCode && watched == field)
+    Abandon();
   switch (event->type()) {
   case QEvent::InputMethod:
     return HoldsBack(watched, *static_cast<QInputMethodEvent *>(event));
@@ -20,6 +22,7 @@ bool Composition::eventFilter(QObject *watched, QEvent *event) {
   case QEvent::KeyPress:
   case QEvent::ShortcutOverride:
   case QEvent::MouseButtonPress:
+    abandoned.clear(); // nothing is handed over as late as that
     HandOver();
     return false;
   default:
@@ -53,7 +56,9 @@ bool Composition::HoldsBack(QObject *watched, const QInputMethodEvent &event) {
 }
 
 void Composition::HandOver() {
-  if (held.isEmpty() || field == nullptr)
+  if (field == nullptr)
+    held.clear();
+  if (held.isEmpty())
     return;
   if (field->cursorPosition() != cursorWhenHeld) {
     Abandon();

@@ -1,6 +1,7 @@
 // What an input method puts together in a field.
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -18,6 +19,9 @@ namespace Tessoro {
 class Composition : public QObject {
 public:
   using QObject::QObject;
+
+  // Comes to a field before code writes into it, which ends what is half composed there.
+  static constexpr auto WriteByCode = static_cast<QEvent::Type>(QEvent::User + 1);
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 

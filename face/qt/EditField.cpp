@@ -1,5 +1,8 @@
 #include "face/qt/EditField.hpp"
 
+#include "face/qt/Composition.hpp"
+
+#include <QCoreApplication>
 #include <QInputMethodEvent>
 
 #include <utility>
@@ -8,7 +11,7 @@ namespace Tessoro {
 
 EditField::EditField(QWidget *parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textEdited, this, [this](const QString &edited) {
-    if (!isHalfComposed)
+    if (!isKeptBack)
       Edited(edited);
   });
 }
@@ -19,9 +22,19 @@ void EditField::inputMethodEvent(QInputMethodEvent *event) {
   isHalfComposed = !isFinished && !event->preeditString().isEmpty();
   if (isHalfComposed && !wasHalfComposed)
     replaced = {text(), selectionStart(), selectionLength()};
+  isKeptBack = isHalfComposed;
   QLineEdit::inputMethodEvent(event);
+  isKeptBack = false;
   if (wasHalfComposed && !isHalfComposed && !isFinished)
     Restore();
+}
+
+void EditField::Write(const QString &written) {
+  if (isHalfComposed) {
+    QEvent event(Composition::WriteByCode);
+    QCoreApplication::sendEvent(this, &event);
+  }
+  setText(written);
 }
 
 // A method may also take away what stands there half composed before it hands over the whole, so

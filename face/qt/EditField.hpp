@@ -15,6 +15,9 @@ public:
 protected:
   virtual void Edited(const QString &edited) = 0;
 
+  // In the place of all that stands here, half composed or not.
+  void Write(const QString &written);
+
   void inputMethodEvent(QInputMethodEvent *event) override;
 
 private:
@@ -28,6 +31,7 @@ private:
   void Restore();
 
   bool isHalfComposed = false;
+  bool isKeptBack = false; // what the toolkit edits now
   Selection replaced;
 };
 

@@ -70,6 +70,8 @@ void LabelView::ShowContent() {
     return;
   text = caption;
   update();
+  if (!accessibleName().isEmpty())
+    return; // it is called otherwise
   QAccessibleEvent renamed(this, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&renamed);
 }

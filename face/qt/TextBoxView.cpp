@@ -33,7 +33,7 @@ TextBoxView::TextBoxView(TextBox &shown, const Surroundings &around, QWidget *pa
 void TextBoxView::ShowContent() {
   const QString shown = FromModel(box.Text());
   if (shown != text())
-    setText(shown);
+    Write(shown);
 }
 
 void TextBoxView::Edited(const QString &edited) {

@@ -327,7 +327,7 @@ TEST_F(ServiceJackTest, ClosingDoesNotWaitForAPortThatHasGone) {
 }
 
 // No fixture: no server runs here.
-TEST(ServiceWithoutJackTest, OnlyTheBuiltInDevicesAreThereAndNothingIsPrinted) {
+TEST(ServiceWithoutJackTest, TheBuiltInDevicesAreThereAndNothingIsPrinted) {
   setenv("JACK_DEFAULT_SERVER", "tessoro-no-such-server", 1);
   testing::internal::CaptureStderr();
   testing::internal::CaptureStdout();

@@ -161,6 +161,41 @@ TEST_F(SurprisesTest, AMethodThatHandsOverLateDoesNotTypeIntoTheNextField) {
   EXPECT_THAT(Heard(), ElementsAre("Box Change ?"));
 }
 
+TEST_F(SurprisesTest, WhatIsHalfComposedIsForgottenWhenCodeWritesThere) {
+  for (Control *control : std::initializer_list<Control *>{&bench.Name, &bench.Combo}) {
+    QWidget *field = Focused(*control);
+    Compose(field, QString::fromUtf8("한"));
+    if (control == &bench.Name)
+      bench.Name.SetText("by code");
+    else
+      bench.Combo.SetListIndex(1);
+    Heard();
+    Compose(field, {}, QString::fromUtf8("한")); // late
+    LetPass(1);
+    EXPECT_THAT(Heard(), IsEmpty()) << control->Name();
+  }
+  EXPECT_EQ(bench.Name.Text(), "by code");
+  EXPECT_EQ(bench.Combo.Text(), "Saw");
+}
+
+TEST_F(SurprisesTest, WhatAMethodNeverHandsOverIsNoLongerAwaitedAfterAKey) {
+  Compose(Focused(bench.Box), QString::fromUtf8("´"));
+  QWidget *field = Focused(bench.Name);
+  QTest::keyClick(field, Qt::Key_Left);
+  Heard();
+  Compose(field, {}, QString::fromUtf8("´"));
+  EXPECT_THAT(Heard(), ElementsAre("Name Change \xB4"));
+}
+
+// As an undo, a screen reader or a key that the method lets pass.
+TEST_F(SurprisesTest, WhatIsTypedBesideAHalfComposedTextIsTold) {
+  QWidget *field = Focused(bench.Name);
+  Compose(field, QString::fromUtf8("´"));
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+  QCoreApplication::sendEvent(field, &key);
+  EXPECT_THAT(Heard(), ElementsAre("KeyDown 65 0", "KeyPress 97", "Name Change a"));
+}
+
 TEST_F(SurprisesTest, ATextComposedOverAnotherTakesItsPlaceAtOnceOrNotAtAll) {
   for (Control *control : std::initializer_list<Control *>{&bench.Name, &bench.Combo}) {
     auto &field = WidgetOf<QLineEdit>(*control);
