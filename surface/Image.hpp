@@ -1,4 +1,4 @@
-// What takes the mouse without taking the focus: pictures and note keys.
+// What the mouse presses without giving it the focus: pictures and note keys.
 #pragma once
 
 #include "surface/Control.hpp"

@@ -3,6 +3,7 @@
 #include "face/qt/ComboBoxView.hpp"
 #include "face/qt/ItemList.hpp"
 #include "face/qt/LabelView.hpp"
+#include "face/qt/NoteKeyView.hpp"
 #include "face/qt/PointerViews.hpp"
 #include "face/qt/ScrollBarView.hpp"
 #include "face/qt/Text.hpp"
@@ -117,7 +118,7 @@ private:
   LabelView &label;
 };
 
-// What is only for the mouse can be pressed by a reader.
+// What is pressed and is no button of the toolkit.
 class PressedDescription : public QAccessibleWidget {
 public:
   PressedDescription(QWidget &widget, QAccessible::Role role, std::function<void()> onPress,
@@ -128,11 +129,16 @@ public:
     return kind == QAccessible::Accelerator ? accessKey : QAccessibleWidget::text(kind);
   }
   QStringList actionNames() const override {
-    return widget()->isEnabled() ? QStringList(pressAction()) : QStringList();
+    QStringList names = QAccessibleWidget::actionNames();
+    if (widget()->isEnabled())
+      names.prepend(pressAction());
+    return names;
   }
   void doAction(const QString &name) override {
     if (name == pressAction())
       press();
+    else
+      QAccessibleWidget::doAction(name);
   }
 
 private:

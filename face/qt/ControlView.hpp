@@ -37,6 +37,8 @@ public:
 
   // A message box takes the pointer and the keys away: lets go of what the user holds.
   virtual void LetGo() {}
+  // The keys that follow are no longer the control's: releases what a key holds down.
+  virtual void ReleaseKeys() {}
   // The box has gone, and so has the handler that raised it.
   virtual void BoxHasGone() {}
 

@@ -237,6 +237,12 @@ void FormWindow::LetGo() {
     view->LetGo();
 }
 
+// For what may shut the ports: a note that is held must end before.
+void FormWindow::ReleaseKeys() {
+  for (const auto &[control, view] : views)
+    view->ReleaseKeys();
+}
+
 void FormWindow::BoxHasGone() {
   for (const auto &[control, view] : views)
     view->BoxHasGone();
@@ -248,6 +254,7 @@ bool FormWindow::eventFilter(QObject *watched, QEvent *event) {
   case QEvent::ShortcutOverride:
     // A box would keep editing keys for itself; an entry of the menu goes first.
     if (menu != nullptr && menu->Claims(*static_cast<QKeyEvent *>(event))) {
+      ReleaseKeys();
       event->ignore();
       return true;
     }
@@ -301,6 +308,7 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
 }
 
 void FormWindow::closeEvent(QCloseEvent *event) {
+  ReleaseKeys();
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

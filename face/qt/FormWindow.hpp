@@ -59,6 +59,7 @@ private:
   void GiveMenuItsAccessKeys();
   void ZoomByKey(int direction);
   void LayOut(double newZoom);
+  void ReleaseKeys();
   QSize SizeAtZoom() const;
   bool FillsScreen() const;
   double ZoomThatFits() const;

@@ -1,7 +1,6 @@
 #include "face/qt/PointerViews.hpp"
 
 #include "face/qt/Keys.hpp"
-#include "face/qt/Look.hpp"
 #include "face/qt/PictureStore.hpp"
 #include "face/qt/Text.hpp"
 
@@ -120,35 +119,6 @@ void ImageView::paintEvent(QPaintEvent * /*event*/) {
   // Of what is really drawn on: a screen, or a picture of another scale.
   const double scaleOfDevice = painter.deviceTransform().m11();
   painter.drawPixmap(0, 0, Pictures().Draw(image.Picture(), size(), scaleOfDevice));
-}
-
-NoteKeyView::NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent)
-    : PointerView(shown, around, parent), key(shown) {}
-
-void NoteKeyView::Strike() {
-  QMouseEvent press(QEvent::MouseButtonPress, rect().center(), mapToGlobal(rect().center()),
-                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-  mousePressEvent(&press);
-  QMouseEvent release(QEvent::MouseButtonRelease, rect().center(), mapToGlobal(rect().center()),
-                      Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-  mouseReleaseEvent(&release);
-}
-
-void NoteKeyView::paintEvent(QPaintEvent * /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double radius = Look::CornerRadius * Scale().zoom;
-  const QRectF body = QRectF(rect()).adjusted(0.5, -radius, -0.5, -0.5); // square at the top
-  QLinearGradient ivory(body.topLeft(), body.bottomLeft());
-  ivory.setColorAt(0, IsHeld() ? QColor(222, 214, 190) : QColor(250, 247, 236));
-  ivory.setColorAt(1, IsHeld() ? QColor(240, 234, 214) : QColor(255, 255, 252));
-  painter.setPen(QColor(110, 96, 52));
-  painter.setBrush(ivory);
-  painter.drawRoundedRect(body, radius, radius);
-  painter.drawLine(QPointF(0.5, 0.5), QPointF(width() - 0.5, 0.5));
-  painter.setPen(Look::Ink());
-  painter.drawText(QRectF(rect()).adjusted(0, 0, 0, -Scale().Pixels(45)),
-                   Qt::AlignHCenter | Qt::AlignBottom, WithoutAccessKey(FromModel(key.Caption())));
 }
 
 } // namespace Tessoro

@@ -1,4 +1,5 @@
-// What takes the mouse without taking the focus: pictures and note keys.
+// What the mouse presses without giving it the focus: pictures, and what note keys have in common
+// with them.
 #pragma once
 
 #include "face/qt/ControlView.hpp"
@@ -58,20 +59,6 @@ protected:
 
 private:
   Image &image;
-};
-
-class NoteKeyView : public PointerView {
-public:
-  NoteKeyView(NoteKey &shown, const Surroundings &around, QWidget *parent);
-
-  // A press and its release.
-  void Strike();
-
-protected:
-  void paintEvent(QPaintEvent *event) override;
-
-private:
-  NoteKey &key;
 };
 
 } // namespace Tessoro

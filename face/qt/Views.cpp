@@ -4,6 +4,7 @@
 #include "face/qt/ComboBoxView.hpp"
 #include "face/qt/FileListViews.hpp"
 #include "face/qt/LabelView.hpp"
+#include "face/qt/NoteKeyView.hpp"
 #include "face/qt/PointerViews.hpp"
 #include "face/qt/ScrollBarView.hpp"
 #include "face/qt/TextBoxView.hpp"

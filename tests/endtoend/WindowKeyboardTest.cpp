@@ -4,21 +4,31 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <thread>
 
 namespace Tessoro::Tests {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 constexpr int Cutoff = 78;
 constexpr int Resonance = 80;
 constexpr int Drive = 81;
+constexpr int AmpVelocity = 122;
+
+constexpr auto UntilKeysRepeat = 1200ms;
 
 class WindowKeyboardTest : public PluggedEditorTest {
 protected:
   void SetUp() override { StartPlugged(); }
 
   const F_Tessoro &Design() const { return editor->Design().F_Tessoro; }
+
+  void TabToFirstNoteKey() {
+    editor->MainForm().Type(Design().TextAmpVelocity, "7 Tab Tab");
+    EXPECT_THAT(Hear(1), ElementsAre(Parameter(AmpVelocity, 7)));
+  }
 
   void TurnWheelOver(const Control &control) const {
     display.TurnWheel(editor->MainForm().SpotOn(control), 2);
@@ -29,6 +39,55 @@ TEST_F(WindowKeyboardTest, TabGoesFromBoxToBoxAsOneReadsAndBack) {
   editor->MainForm().Type(Design().TextF1_cutoff, "7 Tab 8 Tab 9 shift+Tab shift+Tab 5");
   EXPECT_THAT(Hear(4), ElementsAre(Parameter(Cutoff, 7), Parameter(Resonance, 8),
                                    Parameter(Drive, 9), Parameter(Cutoff, 5)));
+}
+
+TEST_F(WindowKeyboardTest, TheNoteKeysAreReachedWithTabAndSoundWhileAKeyIsHeld) {
+  TabToFirstNoteKey();
+  display.HoldKey("space");
+  EXPECT_THAT(Hear(1), ElementsAre(Note(36, 100)));
+  std::this_thread::sleep_for(UntilKeysRepeat);
+  EXPECT_THAT(Hear(0), IsEmpty());
+  display.LetGoOfKey("space");
+  EXPECT_THAT(Hear(1), ElementsAre(Note(36, 0)));
+
+  display.PressKeys("Tab Tab space Right KP_Enter shift+Tab shift+Tab Return");
+  EXPECT_THAT(Hear(6), ElementsAre(Note(60, 100), Note(60, 0), Note(72, 100), Note(72, 0),
+                                   Note(48, 100), Note(48, 0)));
+  display.PressKeys("c 5 Escape shift+Tab shift+Tab shift+Tab BackSpace 9");
+  EXPECT_THAT(Hear(1), ElementsAre(Parameter(AmpVelocity, 9)));
+}
+
+TEST_F(WindowKeyboardTest, AHeldNoteEndsWhenAnotherWindowTakesTheKeys) {
+  editor->MainForm().Focus();
+  display.PressKeys("ctrl+o");
+  const ShownForm files = editor->FileForm();
+  editor->MainForm().Focus();
+  TabToFirstNoteKey();
+  display.HoldKey("space");
+  files.Focus();
+  EXPECT_THAT(Hear(2), ElementsAre(Note(36, 100), Note(36, 0)));
+  display.LetGoOfKey("space");
+  editor->MainForm().Focus();
+  display.PressKeys("space");
+  EXPECT_THAT(Hear(2), ElementsAre(Note(36, 100), Note(36, 0)));
+}
+
+TEST_F(WindowKeyboardTest, AHeldNoteEndsWithTheProgram) {
+  TabToFirstNoteKey();
+  display.HoldKey("space");
+  EXPECT_THAT(Hear(1), ElementsAre(Note(36, 100)));
+  editor->CloseMainWindow();
+  EXPECT_EQ(editor->ExitStatus(), 0);
+  EXPECT_THAT(Hear(1), ElementsAre(Note(36, 0)));
+}
+
+TEST_F(WindowKeyboardTest, AClickOnANoteKeyLeavesTheBoxThatIsBeingTypedIn) {
+  const ShownForm form = editor->MainForm();
+  form.Type(Design().TextF1_cutoff, "7");
+  form.Click(Design().NoteC3);
+  form.PressKeys("8");
+  EXPECT_THAT(Hear(4),
+              ElementsAre(Parameter(Cutoff, 7), Note(60, 100), Note(60, 0), Parameter(Cutoff, 78)));
 }
 
 TEST_F(WindowKeyboardTest, AListSendsAtEveryStepOfTheArrowKeys) {

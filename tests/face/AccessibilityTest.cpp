@@ -86,6 +86,16 @@ TEST_F(AccessibilityTest, WhatIsOnlyForTheMouseCanBePressedByAReader) {
   EXPECT_THAT(Heard(), testing::ElementsAre("Key MouseDown 1 135 585", "Key MouseUp 1 135 585"));
 }
 
+TEST_F(AccessibilityTest, AReaderGivesANoteKeyTheFocusAndTellsThatItHasIt) {
+  QAccessibleInterface &key = Description(bench.Key);
+  EXPECT_TRUE(key.state().focusable);
+  EXPECT_FALSE(key.state().focused);
+  EXPECT_FALSE(Description(bench.Knob).state().focusable);
+  key.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_TRUE(key.state().focused);
+  EXPECT_THAT(Heard(), testing::IsEmpty());
+}
+
 TEST_F(AccessibilityTest, ToolTipsAreThoseOfTheControls) {
   EXPECT_EQ(WidgetOf(bench.Box).toolTip(), QStringLiteral("A number"));
   EXPECT_EQ(WidgetOf(bench.Push).toolTip(), QString());

@@ -256,7 +256,7 @@ TEST_F(FormWindowTest, TabGoesThroughTheControlsInTheOrderOfTheirDeclaration) {
   Focus(bench.Box);
   for (const Control *next : std::initializer_list<Control *>{
            &bench.Name, &bench.Combo, &bench.Check, &bench.Push, &bench.HBar, &bench.VBar,
-           &bench.Drive, &bench.Dir, &bench.File, &bench.Box}) {
+           &bench.Key, &bench.Drive, &bench.Dir, &bench.File, &bench.Box}) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_TRUE(WidgetOf(*next).hasFocus()) << next->Name();
   }

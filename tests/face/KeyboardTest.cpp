@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <map>
 
 namespace Tessoro::Tests {
@@ -33,13 +34,14 @@ protected:
     return forms;
   }
 
-  // What takes keys: boxes, lists, bars and buttons that a user can reach.
+  // What takes keys: boxes, lists, bars, buttons and note keys that a user can reach.
   static bool IsWorkedWithKeys(const Control &control) {
     switch (control.Type()) {
     case ControlType::TextBox:
     case ControlType::ComboBox:
     case ControlType::CheckBox:
     case ControlType::CommandButton:
+    case ControlType::NoteKey:
     case ControlType::HScrollBar:
     case ControlType::VScrollBar:
     case ControlType::DriveListBox:
@@ -49,6 +51,50 @@ protected:
     default:
       return false;
     }
+  }
+
+  static bool CanHaveTab(const QWidget &widget) {
+    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+  }
+
+  // The boxes that a knob changes.
+  static std::vector<const TextBox *> ChangedByDrag(MouseControl &knob) {
+    std::map<const TextBox *, std::string> before;
+    for (const Control *control : knob.Owner().Controls())
+      if (const auto *box = dynamic_cast<const TextBox *>(control))
+        before[box] = box->Text();
+    std::vector<const TextBox *> changed;
+    for (const float direction : {-1.0F, 1.0F}) { // one that stands at its limit goes only one way
+      knob.UserMouseDown({});
+      for (int step = 1; step <= 20; ++step)
+        knob.UserMouseMove({.y = direction * static_cast<float>(step) * 150});
+      knob.UserMouseUp({});
+      for (const auto &[box, text] : before)
+        if (box->Text() != text)
+          changed.push_back(box);
+    }
+    return changed;
+  }
+
+  // Whether the control does something when it is clicked or dragged.
+  static bool ReactsToMouse(const Control &control) {
+    if (const auto *image = dynamic_cast<const Image *>(&control))
+      return image->onMouseDown || image->onClick || image->onDblClick;
+    if (const auto *label = dynamic_cast<const Label *>(&control))
+      return label->onClick != nullptr;
+    if (const auto *frame = dynamic_cast<const Frame *>(&control))
+      return frame->onClick != nullptr;
+    return IsWorkedWithKeys(control);
+  }
+
+  // What a click there does.
+  static void Click(Control &control) {
+    if (auto *image = dynamic_cast<Image *>(&control))
+      image->UserClick();
+    else if (auto *label = dynamic_cast<Label *>(&control))
+      label->UserClick();
+    else if (auto *frame = dynamic_cast<Frame *>(&control))
+      frame->UserClick();
   }
 
   static void Turn(QWidget &widget, int steps) {
@@ -84,6 +130,38 @@ TEST_F(KeyboardTest, TabReachesWhatAUserCanReachInTheOrderOfReading) {
   }
 }
 
+// Beside the boxes of the knobs there are the access keys; and what merely closes its form needs no
+// way of its own, for every window has keys that close it.
+TEST_F(KeyboardTest, WhatTheMouseWorksIsInReachOfTheKeyboard) {
+  app.F_Tessoro.InitPanelParams();
+  for (Form *form : Forms()) {
+    Work(*form);
+    int found = 0;
+    for (Control *control : form->Controls()) {
+      if (control->ReachOfUser() != Reach::Done || !ReactsToMouse(*control))
+        continue;
+      ++found;
+      if (CanHaveTab(WidgetOf(*control)))
+        continue;
+      auto *image = dynamic_cast<Image *>(control);
+      if (image != nullptr && !image->AccessKey().empty())
+        continue;
+      if (image != nullptr && image->onMouseDown) {
+        const std::vector<const TextBox *> boxes = ChangedByDrag(*image);
+        EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(),
+                                [&](const TextBox *box) { return CanHaveTab(WidgetOf(*box)); }))
+            << form->Name() << "." << control->Name();
+        continue;
+      }
+      Click(*control);
+      EXPECT_FALSE(form->IsLoaded()) << form->Name() << "." << control->Name();
+      Work(*form);
+    }
+    EXPECT_GT(found, 0) << form->Name();
+    form->Unload();
+  }
+}
+
 TEST_F(KeyboardTest, TheOrderOfReadingFollowsTheSoundAndEachStrip) {
   std::vector<std::string> order;
   for (const Control *control : ReadingOrder(app.F_Tessoro))
@@ -94,14 +172,17 @@ TEST_F(KeyboardTest, TheOrderOfReadingFollowsTheSoundAndEachStrip) {
     EXPECT_NE(found, order.end()) << name;
     return found - order.begin();
   };
-  const std::vector<std::string> road{
-      "VScrollOSC1vol",   "ComboOSC1shape",  "TextOSC1semi",      "HScrollOSC1semi",
-      "TextOSC1pw",       "CheckOSC1mute",   "TextOSC1fbalance",  "CheckSyncOn",
-      "VScrollOSC2vol",   "VScrollOSC3vol",  "VScrollNoiseVol",   "ComboFilter1",
-      "TextF1_cutoff",    "TextF1_reso",     "ComboF1Modulation", "ComboFilter2",
-      "TextF2_pan",       "C_octaveminus",   "C_octaveplus",      "ComboEnv1",
-      "TextEnv1T1",       "TextEnv1T3",      "ComboEnvFilter",    "TextEnv2T1",
-      "VScrollAmpVolume", "TextAmpVelocity", "InitSnd",           "Panic"};
+  const std::vector<std::string> road{"VScrollOSC1vol",   "ComboOSC1shape",  "TextOSC1semi",
+                                      "HScrollOSC1semi",  "TextOSC1pw",      "CheckOSC1mute",
+                                      "TextOSC1fbalance", "CheckSyncOn",     "VScrollOSC2vol",
+                                      "VScrollOSC3vol",   "VScrollNoiseVol", "ComboFilter1",
+                                      "TextF1_cutoff",    "TextF1_reso",     "ComboF1Modulation",
+                                      "ComboFilter2",     "TextF2_pan",      "C_octaveminus",
+                                      "C_octaveplus",     "ComboEnv1",       "TextEnv1T1",
+                                      "TextEnv1T3",       "ComboEnvFilter",  "TextEnv2T1",
+                                      "VScrollAmpVolume", "TextAmpVelocity", "InitSnd",
+                                      "NoteC1",           "NoteC2",          "NoteC3",
+                                      "NoteC4",           "NoteC5",          "Panic"};
   for (std::size_t i = 0; i + 1 < road.size(); ++i)
     EXPECT_LT(placeOf(road[i]), placeOf(road[i + 1])) << road[i] << ", " << road[i + 1];
 }
@@ -109,7 +190,7 @@ TEST_F(KeyboardTest, TheOrderOfReadingFollowsTheSoundAndEachStrip) {
 TEST_F(KeyboardTest, FocusCanBeSeenOnWhateverHasIt) {
   for (const Control *control : std::initializer_list<Control *>{
            &bench.Box, &bench.Combo, &bench.Check, &bench.Push, &bench.HBar, &bench.VBar,
-           &bench.Drive, &bench.Dir, &bench.File}) {
+           &bench.Drive, &bench.Dir, &bench.File, &bench.Key}) {
     QWidget &widget = WidgetOf(*control);
     Focus(bench.Name);
     const QImage without = widget.grab().toImage();
