@@ -1,6 +1,7 @@
 // The editor as it starts for a user who has chosen ports, up to its first frame. The argument is
 // the program's directory. The built-in microQ stands for an instrument, and so has no window.
 #include "bench/FirstFrame.hpp"
+#include "face/qt/BusConnecting.hpp"
 #include "face/qt/FontReading.hpp"
 #include "face/qt/Program.hpp"
 #include "service/MachineMidi.hpp"
@@ -10,6 +11,7 @@
 int main(int argc, char *argv[]) {
   Tessoro::FontReading fonts;
   const QApplication application(argc, argv);
+  const Tessoro::BusConnecting bus;
   fonts.End();
   const Tessoro::FirstFrame firstFrame;
   Tessoro::DressApplication();

@@ -8,6 +8,12 @@
 
 namespace Tessoro {
 
+namespace {
+
+constexpr int LatestMilliseconds = 500;
+
+} // namespace
+
 bool Composition::eventFilter(QObject *watched, QEvent *event) {
   if (event->type() == WriteByCode && watched == field)
     Abandon();
@@ -22,7 +28,6 @@ bool Composition::eventFilter(QObject *watched, QEvent *event) {
   case QEvent::KeyPress:
   case QEvent::ShortcutOverride:
   case QEvent::MouseButtonPress:
-    abandoned.clear(); // nothing is handed over as late as that
     HandOver();
     return false;
   default:
@@ -37,7 +42,7 @@ bool Composition::HoldsBack(QObject *watched, const QInputMethodEvent &event) {
     return false;
   HandOver();
   const QString &finished = event.commitString();
-  if (!finished.isEmpty() && finished == std::exchange(abandoned, {}))
+  if (IsLate(event))
     return true;
   const bool isSameField = watched == field;
   field = qobject_cast<QLineEdit *>(watched);
@@ -53,6 +58,15 @@ bool Composition::HoldsBack(QObject *watched, const QInputMethodEvent &event) {
   if (!begun.isEmpty())
     abandoned.clear();
   return false;
+}
+
+// Keys don't end the wait: with a method that works through a bus they may overtake its answer.
+bool Composition::IsLate(const QInputMethodEvent &event) {
+  if (abandoned.isEmpty() || lateUntil.hasExpired())
+    return false;
+  if (event.commitString().isEmpty())
+    return event.preeditString() == abandoned;
+  return event.commitString() == std::exchange(abandoned, {});
 }
 
 void Composition::HandOver() {
@@ -73,6 +87,7 @@ void Composition::Abandon() {
   if (begun.isEmpty())
     return;
   abandoned = std::exchange(begun, {});
+  lateUntil.setRemainingTime(LatestMilliseconds);
   Send({});
 }
 

@@ -1,6 +1,7 @@
 // What an input method puts together in a field.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
@@ -27,6 +28,7 @@ public:
 
 private:
   bool HoldsBack(QObject *watched, const QInputMethodEvent &event);
+  bool IsLate(const QInputMethodEvent &event);
   void HandOver();
   void Abandon();
   void Send(const QString &finished);
@@ -35,7 +37,8 @@ private:
   QString begun;             // what stands there half composed
   QString held; // handed over by the method, or else by the toolkit: what follows tells
   int cursorWhenHeld = 0;
-  QString abandoned;
+  QString abandoned; // what a method may still hand over, or show once more
+  QDeadlineTimer lateUntil;
   bool isSending = false;
 };
 

@@ -34,10 +34,10 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow
     : QWidget(nullptr, Qt::Window), form(shown), surroundings(around),
       ground(new Ground(shown, around.gate, this)) {
   setObjectName(QString::fromStdString(form.Name()));
-  if (FormMenu::IsNeededBy(form))
-    menu = new FormMenu(form, surroundings.gate, this);
   MakeControls();
   OrderTabs();
+  if (FormMenu::IsNeededBy(form))
+    menu = new FormMenu(form, surroundings.gate, this);
   ListenToZoomKeys(*this, [this](int direction) { ZoomByKey(direction); });
   endOfDrag.setSingleShot(true);
   connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);

@@ -1,5 +1,6 @@
 #include "face/qt/Look.hpp"
 
+#include <QFontDatabase>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -16,11 +17,24 @@ QColor FrameColor() { return {201, 160, 10}; }
 QColor Ink() { return FromModel(Colors::Navy); }
 QColor FadedInk() { return {168, 134, 20}; }
 
+namespace {
+
+// Looked for once: of a list of names the toolkit looks up each, for each font.
+QString FindFamily() {
+  const QStringList wished{QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                           QStringLiteral("Segoe UI"), QStringLiteral("Helvetica Neue"),
+                           QStringLiteral("Arial")};
+  const auto found = std::find_if(wished.begin(), wished.end(), [](const QString &each) {
+    return QFontDatabase::hasFamily(each);
+  });
+  return found == wished.end() ? QFont().family() : *found;
+}
+
+} // namespace
+
 QFont Font(TextSize size, const Scale &scale, QFont::Weight weight) {
-  static const QStringList families{QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
-                                    QStringLiteral("Segoe UI"), QStringLiteral("Helvetica Neue"),
-                                    QStringLiteral("Arial")};
-  QFont font(families);
+  static const QString family = FindFamily();
+  QFont font(family);
   font.setPixelSize(std::max(1, qRound(static_cast<double>(size) * scale.zoom)));
   font.setWeight(weight);
   font.setKerning(false);

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <filesystem>
 #include <utility>
@@ -20,6 +21,9 @@
 namespace Tessoro {
 
 namespace {
+
+// Behind the first frame, which it would hold up; a list of windows asks for it later than that.
+constexpr int IconMilliseconds = 100;
 
 std::string TextFromQt(const QString &path) {
   return TextFromPath(std::filesystem::path(path.toStdU16String()));
@@ -42,7 +46,8 @@ void DressApplication() {
   QApplication::setPalette(Look::Menus(), "QMenu");
   QApplication::setLayoutDirection(Qt::LeftToRight); // places are fixed
   QApplication::setQuitOnLastWindowClosed(false);    // the editor says when it ends
-  QApplication::setWindowIcon(DrawnIcon(*FindDrawing("icon")));
+  QTimer::singleShot(IconMilliseconds,
+                     [] { QApplication::setWindowIcon(DrawnIcon(*FindDrawing("icon"))); });
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessoro.Tessoro"));
   QCoreApplication *application = QCoreApplication::instance();
   application->installEventFilter(new Composition(application));

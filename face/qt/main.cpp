@@ -1,4 +1,5 @@
 // The editor in windows.
+#include "face/qt/BusConnecting.hpp"
 #include "face/qt/FontReading.hpp"
 #include "face/qt/MidiOfBuild.hpp"
 #include "face/qt/Program.hpp"
@@ -38,6 +39,7 @@ int main(int argc, char *argv[]) {
       return 0;
   Tessoro::FontReading fonts;
   const QApplication application(argc, argv);
+  const Tessoro::BusConnecting bus;
   fonts.End();
   Tessoro::DressApplication();
   const auto midi = Tessoro::MakeMidiService();

@@ -21,6 +21,10 @@ constexpr const char *ResonanceOf9 = "F0 3E 10 00 20 00 00 50 09 F7  Filter 1 re
 constexpr const char *ToKorean = "shift+space";
 constexpr const char *HalfComposed = "g k s";
 
+// A method answers each key some time later, through a daemon and a bus of its own. Nobody turns
+// away before what he has composed so far is to be seen.
+void SeeWhatStandsThere() { std::this_thread::sleep_for(std::chrono::milliseconds(400)); }
+
 class WindowInputMethodTest : public testing::Test {
 protected:
   void SetUp() override {
@@ -45,6 +49,7 @@ protected:
 
   void TypeCutoffInKorean(const std::string &keys) const {
     editor->MainForm().Type(Main().TextF1_cutoff, ToKorean + (" " + keys));
+    SeeWhatStandsThere();
   }
   void TakeLastDigitFromCutoff() const {
     editor->MainForm().Click(Main().TextF1_cutoff, {.x = 0.3});
@@ -55,6 +60,7 @@ protected:
   void TypeFileName(const std::string &keys) const {
     editor->MainForm().PressKeys("ctrl+o");
     editor->FileForm().Type(editor->Design().F_FileIO.TextFilename, keys);
+    SeeWhatStandsThere();
   }
   void CloseFileForm() const {
     display.Close(display.WaitForWindow("^Open"));
@@ -103,6 +109,7 @@ TEST_F(WindowInputMethodTest, WhatIsHalfComposedGoesWhenAnotherWindowOrNoneIsWor
   EXPECT_EQ(display.WaitForWindow("^Open .*/ab$"), form);
   editor->FileForm().Click(editor->Design().F_FileIO.TextFilename, {.x = 0.3});
   display.PressKeys(std::string("End ") + HalfComposed);
+  SeeWhatStandsThere();
   CloseFileForm();
   editor->MainForm().Type(Main().TextF1_cutoff, "6");
   EXPECT_THAT(Sent(2), ElementsAre(ResonanceOf9, CutoffOf6));
@@ -137,6 +144,7 @@ TEST_F(WindowInputMethodTest, AnAccentAndItsLetterBecomeOneCharacter) {
 TEST_F(WindowInputMethodTest, AnAccentWithoutItsLetterGoesWithTheFocus) {
   method->Choose("xkb:us:intl:eng");
   editor->MainForm().Type(Main().TextF1_cutoff, "6 dead_acute");
+  SeeWhatStandsThere();
   TypeResonanceOf9();
   EXPECT_THAT(Sent(2), ElementsAre(CutoffOf6, ResonanceOf9));
 }

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QSvgRenderer>
+#include <QTest>
 
 #include <cstdlib>
 
@@ -83,7 +84,8 @@ TEST(Drawings, OfTheWindowsIconIsTheIconOfTheDesktop) {
   EXPECT_LT(MeanDifference(Drawn("icon", {128, 128}), fromFile), 1);
 }
 
-TEST(Drawings, GiveEachWindowItsIcon) {
+TEST(Drawings, GiveEachWindowItsIconBehindTheFirstFrame) {
+  ASSERT_TRUE(QTest::qWaitFor([] { return !QApplication::windowIcon().isNull(); }));
   const QIcon icon = QApplication::windowIcon();
   for (const int side : {32, 64})
     EXPECT_EQ(icon.pixmap(side).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),

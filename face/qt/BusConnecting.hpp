@@ -1,0 +1,19 @@
+// The connection to the desktop's message bus, made beside the making of the first window.
+#pragma once
+
+#include <thread>
+
+namespace Tessoro {
+
+// The toolkit asks that bus for screen readers as soon as the first widget has a name, and waits
+// for the answer. To be begun behind the QApplication; whoever asks before it is done waits no
+// longer than else.
+class BusConnecting {
+public:
+  BusConnecting();
+
+private:
+  std::jthread thread;
+};
+
+} // namespace Tessoro
