@@ -1,5 +1,6 @@
 #include "face/qt/FormWindow.hpp"
 
+#include "face/qt/ButtonViews.hpp"
 #include "face/qt/Desk.hpp"
 #include "face/qt/FormMenu.hpp"
 #include "face/qt/Ground.hpp"
@@ -12,7 +13,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QScreen>
 #include <QToolTip>
 
@@ -81,9 +82,10 @@ void FormWindow::GiveMenuItsAccessKeys() {
   if (menu == nullptr)
     return;
   for (const QAction *list : menu->QWidget::actions())
-    for (QPushButton *button : ground->findChildren<QPushButton *>())
-      if (button->shortcut() == QKeySequence::mnemonic(list->text()))
-        button->setShortcut({});
+    for (const auto &[control, view] : views)
+      if (auto *button = dynamic_cast<CommandButtonView *>(view);
+          button != nullptr && button->shortcut() == QKeySequence::mnemonic(list->text()))
+        button->GiveUpAccessKey();
 }
 
 QWidget *FormWindow::WidgetOf(const Control &control) const {
@@ -116,8 +118,21 @@ void FormWindow::KeepOnTop() {
 void FormWindow::ComeToFront() {
   if (isVisible())
     raise();
+  else
+    FocusFirst();
   show();
   activateWindow();
+}
+
+// What it holds is selected, so that what is typed takes its place.
+void FormWindow::FocusFirst() {
+  const Control *first = form.FindControl(form.Design().firstFocus);
+  if (first == nullptr)
+    return;
+  QWidget *widget = WidgetOf(*first);
+  widget->setFocus(Qt::TabFocusReason);
+  if (auto *field = qobject_cast<QLineEdit *>(widget))
+    field->selectAll();
 }
 
 void FormWindow::ZoomByKey(int direction) {
@@ -132,18 +147,19 @@ void FormWindow::ZoomByKey(int direction) {
 void FormWindow::OpenFirst() { move(screen()->availableGeometry().topLeft()); }
 
 // Letters that are larger than usual aren't worth covering another form.
-void FormWindow::OpenBesideOthers() {
+void FormWindow::OpenBesideOthers(const FormWindow &first) {
   const double wished = zoom;
-  bool coversNothing = Desk::StandBesideOthers(*this);
+  const auto stand = [&] { return Desk::StandBesideOthers(*this, size(), &first); };
+  bool coversNothing = stand();
   while (!coversNothing && Desk::NextZoom(zoom, -1) >= 1) {
     SetZoom(Desk::NextZoom(zoom, -1));
-    coversNothing = Desk::StandBesideOthers(*this);
+    coversNothing = stand();
   }
   if (coversNothing) {
     openingZoom = zoom;
   } else {
     SetZoom(wished);
-    Desk::StandBesideOthers(*this);
+    stand();
   }
 }
 
@@ -307,8 +323,10 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
     surroundings.gate.Pass([&] { form.UserKeyUp(code, shift); });
 }
 
+// Closing may shut the ports, and a note that is held must end before.
 void FormWindow::closeEvent(QCloseEvent *event) {
-  ReleaseKeys();
+  for (const auto &[control, view] : views)
+    view->ReleaseAll();
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

@@ -65,6 +65,11 @@ void NoteKeyView::ReleaseKeys() {
   key.UserMouseUp(AtMiddle());
 }
 
+void NoteKeyView::ReleaseAll() {
+  PointerView::ReleaseAll();
+  ReleaseKeys();
+}
+
 void NoteKeyView::BoxHasGone() {
   PointerView::BoxHasGone();
   ReleaseKeys();

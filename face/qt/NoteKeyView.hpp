@@ -17,6 +17,7 @@ public:
   void Strike();
 
   void ReleaseKeys() override;
+  void ReleaseAll() override;
   void BoxHasGone() override;
 
 protected:

@@ -86,14 +86,14 @@ void PointerView::mouseReleaseEvent(QMouseEvent *event) {
 
 void PointerView::hideEvent(QHideEvent *event) {
   QWidget::hideEvent(event);
-  ReleaseAllBut(Qt::NoButton);
+  ReleaseAll();
   wasPressedOnce = false;
 }
 
 void PointerView::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::EnabledChange && !isEnabled())
-    ReleaseAllBut(Qt::NoButton);
+    ReleaseAll();
 }
 
 ImageView::ImageView(Image &shown, const Surroundings &around, QWidget *parent)

@@ -111,6 +111,14 @@ TEST_F(FormWindowTest, ClosingTheMainWindowClosesThePortsAndWritesTheSettings) {
   EXPECT_EQ(screen.ExitStatus(), 0);
 }
 
+TEST_F(FormWindowTest, ANoteThatIsHeldEndsBeforeTheMainWindowCloses) {
+  QTest::mousePress(&WidgetOf(app.F_Tessoro.NoteC3), Qt::LeftButton);
+  midi.calls.clear();
+  WindowOf(app.F_Tessoro).close();
+  EXPECT_THAT(midi.calls, ElementsAre("midiOutShortMsg 00003C90",
+                                      "midiOutClose " + std::to_string(TestMidi::OutHandle)));
+}
+
 TEST_F(FormWindowTest, QuitLeavesNoWindow) {
   app.Quit();
   EXPECT_EQ(screen.ExitStatus(), 0);
@@ -250,6 +258,25 @@ TEST_F(FormWindowTest, AMenuIsOpenedByItsAccessKey) {
   Press(Qt::Key_O, Qt::AltModifier);
   const auto *menu = WindowOf(bench).findChild<QMenuBar *>()->actions().front()->menu();
   EXPECT_TRUE(menu->isVisible());
+}
+
+TEST_F(FormWindowTest, HoweverTheMenuWasOpenedTheFocusGoesBackToWhereItCameFrom) {
+  const auto pressInFront = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget *popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key, modifiers);
+    LetPass();
+  };
+  for (const int times : {1, 2, 3}) {
+    Focus(bench.Combo);
+    for (int i = 0; i < times; ++i) {
+      Press(Qt::Key_O, Qt::AltModifier);
+      EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+      pressInFront(Qt::Key_Escape);
+    }
+    EXPECT_FALSE(WidgetOf(bench.Combo).hasFocus()) << "the bar is worked with keys";
+    pressInFront(Qt::Key_Escape);
+    EXPECT_TRUE(WidgetOf(bench.Combo).hasFocus()) << times;
+  }
 }
 
 TEST_F(FormWindowTest, TabGoesThroughTheControlsInTheOrderOfTheirDeclaration) {

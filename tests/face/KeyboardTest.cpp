@@ -199,6 +199,17 @@ TEST_F(KeyboardTest, FocusCanBeSeenOnWhateverHasIt) {
   }
 }
 
+TEST_F(KeyboardTest, WhereASoundIsSavedItsNameCanBeTypedAtOnce) {
+  app.F_Tessoro.InitSnd.UserClick();
+  for (Menu *direction : {&app.F_Tessoro.Menu_OpenSound, &app.F_Tessoro.Menu_SaveSound}) {
+    direction->UserClick();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(app.F_FileIO)));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("pad"));
+    EXPECT_EQ(app.F_FileIO.TextFilename.Text(), "pad");
+    app.F_FileIO.Unload();
+  }
+}
+
 TEST_F(KeyboardTest, AKnobLeavesTheFocusWhereItIs) {
   Focus(bench.Box);
   QTest::mouseClick(&WidgetOf(bench.Knob), Qt::LeftButton);
@@ -246,6 +257,18 @@ TEST_F(KeyboardTest, WhereMenuAndButtonShareAnAccessKeyTheMenuOpens) {
     list->close();
   }
   EXPECT_TRUE(midi.messages.empty());
+}
+
+TEST_F(KeyboardTest, AButtonUnderlinesNoAccessKeyThatIsTheMenus) {
+  FormWindow &window = Work(app.F_Tessoro);
+  const auto textOf = [&](const Control &control) {
+    return dynamic_cast<QPushButton &>(*window.WidgetOf(control)).text();
+  };
+  EXPECT_EQ(textOf(app.F_Tessoro.Panic), QStringLiteral("Panic"));
+  EXPECT_EQ(app.F_Tessoro.Panic.Caption(), "&Panic");
+  app.F_Tessoro.Panic.SetCaption("&P && Q");
+  EXPECT_EQ(textOf(app.F_Tessoro.Panic), QStringLiteral("P && Q"));
+  EXPECT_EQ(dynamic_cast<QPushButton &>(WidgetOf(bench.Push)).text(), QStringLiteral("&Push"));
 }
 
 TEST_F(KeyboardTest, TheRoutingIsSwitchedByItsAccessKey) {
