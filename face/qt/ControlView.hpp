@@ -39,8 +39,8 @@ public:
   virtual void LetGo() {}
   // The keys that follow are no longer the control's: releases what a key holds down.
   virtual void ReleaseKeys() {}
-  // What is still held can't be let go of any more: tells its release now.
-  virtual void ReleaseAll() {}
+  // What the mouse holds can't be let go of any more: tells its release now.
+  virtual void ReleaseButtons() {}
   // The box has gone, and so has the handler that raised it.
   virtual void BoxHasGone() {}
 

@@ -325,8 +325,10 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
 
 // Closing may shut the ports, and a note that is held must end before.
 void FormWindow::closeEvent(QCloseEvent *event) {
-  for (const auto &[control, view] : views)
-    view->ReleaseAll();
+  for (const auto &[control, view] : views) {
+    view->ReleaseKeys();
+    view->ReleaseButtons();
+  }
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

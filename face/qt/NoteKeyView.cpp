@@ -65,11 +65,6 @@ void NoteKeyView::ReleaseKeys() {
   key.UserMouseUp(AtMiddle());
 }
 
-void NoteKeyView::ReleaseAll() {
-  PointerView::ReleaseAll();
-  ReleaseKeys();
-}
-
 void NoteKeyView::BoxHasGone() {
   PointerView::BoxHasGone();
   ReleaseKeys();

@@ -17,7 +17,6 @@ public:
   void Strike();
 
   void ReleaseKeys() override;
-  void ReleaseAll() override;
   void BoxHasGone() override;
 
 protected:

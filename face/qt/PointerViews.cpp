@@ -86,14 +86,14 @@ void PointerView::mouseReleaseEvent(QMouseEvent *event) {
 
 void PointerView::hideEvent(QHideEvent *event) {
   QWidget::hideEvent(event);
-  ReleaseAll();
+  ReleaseButtons();
   wasPressedOnce = false;
 }
 
 void PointerView::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::EnabledChange && !isEnabled())
-    ReleaseAll();
+    ReleaseButtons();
 }
 
 ImageView::ImageView(Image &shown, const Surroundings &around, QWidget *parent)

@@ -16,7 +16,7 @@ public:
   PointerView(MouseControl &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
-  void ReleaseAll() override { ReleaseAllBut(Qt::NoButton); }
+  void ReleaseButtons() override { ReleaseAllBut(Qt::NoButton); }
   void BoxHasGone() override;
 
 protected:
