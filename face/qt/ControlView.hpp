@@ -37,6 +37,8 @@ public:
 
   // A message box takes the pointer and the keys away: lets go of what the user holds.
   virtual void LetGo() {}
+  // What the mouse holds can't be let go of any more: tells its release now.
+  virtual void ReleaseButtons() {}
   // The box has gone, and so has the handler that raised it.
   virtual void BoxHasGone() {}
 

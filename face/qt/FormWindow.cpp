@@ -300,7 +300,10 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
     surroundings.gate.Pass([&] { form.UserKeyUp(code, shift); });
 }
 
+// Closing may shut the ports, and a note that is held must end before.
 void FormWindow::closeEvent(QCloseEvent *event) {
+  for (const auto &[control, view] : views)
+    view->ReleaseButtons();
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

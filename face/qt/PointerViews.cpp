@@ -87,14 +87,14 @@ void PointerView::mouseReleaseEvent(QMouseEvent *event) {
 
 void PointerView::hideEvent(QHideEvent *event) {
   QWidget::hideEvent(event);
-  ReleaseAllBut(Qt::NoButton);
+  ReleaseButtons();
   wasPressedOnce = false;
 }
 
 void PointerView::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::EnabledChange && !isEnabled())
-    ReleaseAllBut(Qt::NoButton);
+    ReleaseButtons();
 }
 
 ImageView::ImageView(Image &shown, const Surroundings &around, QWidget *parent)

@@ -9,12 +9,13 @@
 namespace Tessoro {
 
 // Tells each press and its release, also a release that the window system swallows: one behind a
-// message box, or of a widget that is hidden or disabled while it is held.
+// message box, or of a widget that is hidden, disabled or closed while it is held.
 class PointerView : public QWidget, public ControlView {
 public:
   PointerView(MouseControl &shown, const Surroundings &around, QWidget *parent);
 
   QWidget &Widget() override { return *this; }
+  void ReleaseButtons() override { ReleaseAllBut(Qt::NoButton); }
   void BoxHasGone() override;
 
 protected:

@@ -111,6 +111,14 @@ TEST_F(FormWindowTest, ClosingTheMainWindowClosesThePortsAndWritesTheSettings) {
   EXPECT_EQ(screen.ExitStatus(), 0);
 }
 
+TEST_F(FormWindowTest, ANoteThatIsHeldEndsBeforeTheMainWindowCloses) {
+  QTest::mousePress(&WidgetOf(app.F_Tessoro.NoteC3), Qt::LeftButton);
+  midi.calls.clear();
+  WindowOf(app.F_Tessoro).close();
+  EXPECT_THAT(midi.calls, ElementsAre("midiOutShortMsg 00003C90",
+                                      "midiOutClose " + std::to_string(TestMidi::OutHandle)));
+}
+
 TEST_F(FormWindowTest, QuitLeavesNoWindow) {
   app.Quit();
   EXPECT_EQ(screen.ExitStatus(), 0);
