@@ -3,6 +3,7 @@
 #include "face/qt/Text.hpp"
 #include "surface/Form.hpp"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -29,6 +30,7 @@ FormMenu::FormMenu(Form &form, const Gate &entrance, QWidget *parent)
     : QMenuBar(parent), gate(entrance) {
   setAccessibleName(tr("Menu"));
   setNativeMenuBar(false); // the form's client area lies below it
+  connect(qApp, &QApplication::focusChanged, this, &FormMenu::FocusHasChanged);
   const std::vector<Menu *> entries = EntriesOf(form);
   for (Menu *entry : entries) {
     Make(*entry, std::any_of(entries.begin(), entries.end(),
@@ -44,6 +46,7 @@ void FormMenu::Make(Menu &entry, bool hasEntries) {
   if (hasEntries) {
     QMenu *menu = list != nullptr ? list->addMenu(caption) : addMenu(caption);
     menu->setAccessibleName(WithoutAccessKey(caption));
+    connect(menu, &QMenu::aboutToHide, this, &FormMenu::GiveFocusBack, Qt::QueuedConnection);
     actions[&entry] = menu->menuAction();
     return;
   }
@@ -60,6 +63,22 @@ void FormMenu::Show(const Menu &entry) {
   QAction *action = actions.at(&entry);
   action->setEnabled(entry.Enabled());
   action->setVisible(entry.Visible());
+}
+
+void FormMenu::FocusHasChanged(QWidget *before, const QWidget *now) {
+  if (now == this && before != nullptr && before->window() == window())
+    focusedBefore = before;
+}
+
+// The toolkit does so itself, but not where an access key was pressed while the bar had the focus.
+void FormMenu::GiveFocusBack() {
+  if (hasFocus() && activeAction() == nullptr && focusedBefore != nullptr)
+    focusedBefore->setFocus(Qt::MenuBarFocusReason);
+}
+
+void FormMenu::keyPressEvent(QKeyEvent *event) {
+  QMenuBar::keyPressEvent(event);
+  GiveFocusBack();
 }
 
 bool FormMenu::Claims(const QKeyEvent &event) const {

@@ -5,6 +5,7 @@
 #include "surface/Menu.hpp"
 
 #include <QMenuBar>
+#include <QPointer>
 
 #include <unordered_map>
 
@@ -25,10 +26,17 @@ public:
   // Whether the keys are the shortcut of an entry that can be reached now.
   bool Claims(const QKeyEvent &event) const;
 
+protected:
+  void keyPressEvent(QKeyEvent *event) override;
+
 private:
   void Make(Menu &entry, bool hasEntries);
+  void FocusHasChanged(QWidget *before, const QWidget *now);
+  // Where nobody works in the menu any more, the focus goes back to where it came from.
+  void GiveFocusBack();
 
   const Gate &gate;
+  QPointer<QWidget> focusedBefore;
   std::unordered_map<const Menu *, QAction *> actions;
 };
 

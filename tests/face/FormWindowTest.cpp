@@ -260,6 +260,25 @@ TEST_F(FormWindowTest, AMenuIsOpenedByItsAccessKey) {
   EXPECT_TRUE(menu->isVisible());
 }
 
+TEST_F(FormWindowTest, HoweverTheMenuWasOpenedTheFocusGoesBackToWhereItCameFrom) {
+  const auto pressInFront = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget *popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key, modifiers);
+    LetPass();
+  };
+  for (const int times : {1, 2, 3}) {
+    Focus(bench.Combo);
+    for (int i = 0; i < times; ++i) {
+      Press(Qt::Key_O, Qt::AltModifier);
+      EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+      pressInFront(Qt::Key_Escape);
+    }
+    EXPECT_FALSE(WidgetOf(bench.Combo).hasFocus()) << "the bar is worked with keys";
+    pressInFront(Qt::Key_Escape);
+    EXPECT_TRUE(WidgetOf(bench.Combo).hasFocus()) << times;
+  }
+}
+
 TEST_F(FormWindowTest, TabGoesThroughTheControlsInTheOrderOfTheirDeclaration) {
   Focus(bench.Box);
   for (const Control *next : std::initializer_list<Control *>{
