@@ -18,7 +18,15 @@ CommandButtonView::CommandButtonView(CommandButton &shown, const Surroundings &a
   connect(this, &QPushButton::clicked, this, [this] { Enter([this] { button.UserClick(); }); });
 }
 
-void CommandButtonView::ShowContent() { setText(FromModel(button.Caption())); }
+void CommandButtonView::ShowContent() {
+  const QString caption = FromModel(button.Caption());
+  setText(hasAccessKey ? caption : WithoutAccessKey(caption).replace(u'&', QLatin1String("&&")));
+}
+
+void CommandButtonView::GiveUpAccessKey() {
+  hasAccessKey = false;
+  ShowContent();
+}
 
 void CommandButtonView::keyPressEvent(QKeyEvent *event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)

@@ -15,6 +15,8 @@ public:
 
   QWidget &Widget() override { return *this; }
   void LetGo() override { setDown(false); }
+  // Another has it: none is shown, and none works.
+  void GiveUpAccessKey();
 
 protected:
   void ShowContent() override;
@@ -23,6 +25,7 @@ protected:
 
 private:
   CommandButton &button;
+  bool hasAccessKey = true;
 };
 
 // A tile in the check box's two colours, with a mark that is there or not.

@@ -1,5 +1,6 @@
 #include "face/qt/FormWindow.hpp"
 
+#include "face/qt/ButtonViews.hpp"
 #include "face/qt/Desk.hpp"
 #include "face/qt/FormMenu.hpp"
 #include "face/qt/Ground.hpp"
@@ -81,9 +82,10 @@ void FormWindow::GiveMenuItsAccessKeys() {
   if (menu == nullptr)
     return;
   for (const QAction *list : menu->QWidget::actions())
-    for (QPushButton *button : ground->findChildren<QPushButton *>())
-      if (button->shortcut() == QKeySequence::mnemonic(list->text()))
-        button->setShortcut({});
+    for (const auto &[control, view] : views)
+      if (auto *button = dynamic_cast<CommandButtonView *>(view);
+          button != nullptr && button->shortcut() == QKeySequence::mnemonic(list->text()))
+        button->GiveUpAccessKey();
 }
 
 QWidget *FormWindow::WidgetOf(const Control &control) const {

@@ -167,6 +167,18 @@ TEST_F(KeyboardTest, WhereMenuAndButtonShareAnAccessKeyTheMenuOpens) {
   EXPECT_TRUE(midi.messages.empty());
 }
 
+TEST_F(KeyboardTest, AButtonUnderlinesNoAccessKeyThatIsTheMenus) {
+  FormWindow &window = Work(app.F_Tessoro);
+  const auto textOf = [&](const Control &control) {
+    return dynamic_cast<QPushButton &>(*window.WidgetOf(control)).text();
+  };
+  EXPECT_EQ(textOf(app.F_Tessoro.Panic), QStringLiteral("Panic"));
+  EXPECT_EQ(app.F_Tessoro.Panic.Caption(), "&Panic");
+  app.F_Tessoro.Panic.SetCaption("&P && Q");
+  EXPECT_EQ(textOf(app.F_Tessoro.Panic), QStringLiteral("P && Q"));
+  EXPECT_EQ(dynamic_cast<QPushButton &>(WidgetOf(bench.Push)).text(), QStringLiteral("&Push"));
+}
+
 TEST_F(KeyboardTest, TheRoutingIsSwitchedByItsAccessKey) {
   FormWindow &window = Work(app.F_Tessoro);
   Focus(app.F_Tessoro.TextF1_cutoff);
