@@ -29,10 +29,10 @@ bool IsLargerOrInFront(const QWidget *one, const QWidget *other) {
   return one->width() * one->height() > other->width() * other->height();
 }
 
-std::vector<QWidget *> WindowsBut(const QWidget &window) {
-  std::vector<QWidget *> others;
-  for (QWidget *each : QApplication::topLevelWidgets())
-    if (each != &window && each->isVisible() && !each->isMinimized() &&
+std::vector<const QWidget *> WindowsBut(const QWidget &window, const QWidget *toCome) {
+  std::vector<const QWidget *> others;
+  for (const QWidget *each : QApplication::topLevelWidgets())
+    if (each != &window && (each == toCome || each->isVisible()) && !each->isMinimized() &&
         each->windowType() == Qt::Window)
       others.push_back(each);
   std::sort(others.begin(), others.end(), IsLargerOrInFront);
@@ -42,7 +42,7 @@ std::vector<QWidget *> WindowsBut(const QWidget &window) {
 // The window manager puts the frame around a window as it shows it.
 QRect FrameOf(const QWidget &window) {
   const QWindow *handle = window.windowHandle();
-  const bool isYetToCome = handle != nullptr && !handle->isExposed();
+  const bool isYetToCome = handle == nullptr || !handle->isExposed();
   const QRect frame = window.frameGeometry();
   return isYetToCome && frame.size() == window.size()
              ? QRect(frame.topLeft(), frame.marginsAdded(UsualFrame).size())
@@ -120,10 +120,8 @@ QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QS
   return wished;
 }
 
-bool StandBesideOthers(QWidget &window) { return StandBesideOthers(window, window.size()); }
-
-bool StandBesideOthers(QWidget &window, const QSize &least) {
-  const std::vector<QWidget *> others = WindowsBut(window);
+bool StandBesideOthers(QWidget &window, const QSize &least, const QWidget *toCome) {
+  const std::vector<const QWidget *> others = WindowsBut(window, toCome);
   std::vector<QRect> frames;
   frames.reserve(others.size());
   for (const QWidget *other : others)

@@ -35,11 +35,10 @@ QPoint PlaceBeside(const std::vector<QRect> &others, const QSize &size, const QR
 // lets it stand beside the first of them; the wished one again where that is less than the least.
 QSize SizeBeside(const std::vector<QRect> &others, const QSize &wished, const QSize &least,
                  const QRect &room);
-// Moves a window that is still to come out of the way of all that the program shows. The one that
-// is worked in is the first to keep off. False where it covers some of them all the same.
-bool StandBesideOthers(QWidget &window);
-// One that may be made smaller for that.
-bool StandBesideOthers(QWidget &window, const QSize &least);
+// Moves a window that is still to come out of the way of all that the program shows, and of one
+// that has its place but is still to come too. The one that is worked in is the first to keep off.
+// The window may be made smaller for that. False where it covers some of them all the same.
+bool StandBesideOthers(QWidget &window, const QSize &least, const QWidget *toCome = nullptr);
 // Moves a window that has grown so that its far corner doesn't leave the screen.
 void PullOntoScreen(QWidget &window);
 

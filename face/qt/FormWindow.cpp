@@ -134,18 +134,19 @@ void FormWindow::ZoomByKey(int direction) {
 void FormWindow::OpenFirst() { move(screen()->availableGeometry().topLeft()); }
 
 // Letters that are larger than usual aren't worth covering another form.
-void FormWindow::OpenBesideOthers() {
+void FormWindow::OpenBesideOthers(const FormWindow &first) {
   const double wished = zoom;
-  bool coversNothing = Desk::StandBesideOthers(*this);
+  const auto stand = [&] { return Desk::StandBesideOthers(*this, size(), &first); };
+  bool coversNothing = stand();
   while (!coversNothing && Desk::NextZoom(zoom, -1) >= 1) {
     SetZoom(Desk::NextZoom(zoom, -1));
-    coversNothing = Desk::StandBesideOthers(*this);
+    coversNothing = stand();
   }
   if (coversNothing) {
     openingZoom = zoom;
   } else {
     SetZoom(wished);
-    Desk::StandBesideOthers(*this);
+    stand();
   }
 }
 

@@ -39,8 +39,8 @@ public:
   // Places the first window, which is still to come.
   void OpenFirst();
   // Places a window that is still to come. Where only a smaller one has room beside the others, it
-  // is made smaller, though not below a zoom of 1.
-  void OpenBesideOthers();
+  // is made smaller, though not below a zoom of 1. The first window may be still to come as well.
+  void OpenBesideOthers(const FormWindow &first);
 
   void LetGo();
   void BoxHasGone();

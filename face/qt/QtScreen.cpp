@@ -40,6 +40,8 @@ void QtScreen::FormLoading(Form &form) {
   if (opener == nullptr && !windows.empty())
     opener = windows.front(); // which is still to come
   windows.push_back(new FormWindow(form, {.gate = gate, .pictures = pictures}, opener));
+  if (opener == nullptr)
+    windows.back()->OpenFirst();
 }
 
 // The others keep out of the way of the first, which may still be loading when they come up.
@@ -49,7 +51,7 @@ void QtScreen::FormShown(Form &form) {
     if (window == windows.front())
       window->OpenFirst();
     else
-      window->OpenBesideOthers();
+      window->OpenBesideOthers(*windows.front());
   }
   window->ComeToFront();
 }

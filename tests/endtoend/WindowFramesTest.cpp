@@ -195,6 +195,18 @@ TEST_F(WindowFramesTest, FormsOpenBesideTheMainWindowWithTheirFramesOnTheDisplay
   EXPECT_EQ(editor->ExitStatus(), 0);
 }
 
+// They come up before the main window does.
+TEST_F(WindowFramesTest, AtTheFirstStartThePortsStandRightBesideTheMainWindow) {
+  editor.reset();
+  std::filesystem::remove(place.Settings());
+  editor = std::make_unique<WindowedEditor>(*display, place);
+  mainWindow = display->WaitForWindow(MainTitle);
+  const std::string ports = display->WaitForWindow("^MIDI settings$");
+  ExpectBesideMainForm(ports);
+  const Area frame = manager->FrameOf(mainWindow);
+  EXPECT_NEAR(manager->FrameOf(ports).left, frame.left + frame.width, 20);
+}
+
 TEST_F(WindowFramesTest, ThePortsStayOnTopAndABoxOnTopOfThem) {
   MoveMainFormTo({.x = 5, .y = 5});
   editor->OpenPortFormByMenu();
