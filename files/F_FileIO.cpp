@@ -27,7 +27,8 @@ template <typename Step, typename Report> void Trap(Step &&step, Report &&report
 } // namespace
 
 F_FileIO::F_FileIO(Application &app)
-    : Form(app, "F_FileIO", {.caption = "File", .width = 5880, .height = 4875}) {
+    : Form(app, "F_FileIO",
+           {.caption = "File", .width = 5880, .height = 4875, .firstFocus = "TextFilename"}) {
   Drive1.onChange = [this] { Drive1_Change(); };
   Dir1.onChange = [this] { Dir1_Change(); };
   File1.onClick = [this] { TextFilename.SetText(File1.FileName()); };

@@ -19,6 +19,8 @@ struct FormDesign {
   int height = 0;
   // The form sees key events before its controls.
   bool keyPreview = false;
+  // The control that has the keyboard as the form comes up; not named, the first as one reads.
+  std::string_view firstFocus = {};
 };
 
 // A form keeps its object for the whole run. Loading it takes its controls back to their design and

@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -17,6 +19,34 @@ namespace Tessoro {
 namespace {
 
 constexpr double IndentInTwips = 150;
+constexpr int DepthRole = Qt::UserRole;
+
+// The name alone is the text of an item, so that it is found by typing how it begins.
+class SteppedIn : public QStyledItemDelegate {
+public:
+  explicit SteppedIn(DirListView &itsList) : QStyledItemDelegate(&itsList), list(itsList) {}
+
+protected:
+  // The toolkit leaves room for a picture and its margins, and there is none.
+  void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int depth = index.data(DepthRole).toInt();
+    if (depth == 0)
+      return;
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+    const int indent = list.Scale().RoundedPixels(depth * IndentInTwips);
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationSize = {std::max(0, indent - 2 * margin), 1};
+  }
+  // As high as the root, which has no picture.
+  QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+    const int height = QStyledItemDelegate::sizeHint(option, index.siblingAtRow(0)).height();
+    return {QStyledItemDelegate::sizeHint(option, index).width(), height};
+  }
+
+private:
+  const DirListView &list;
+};
 
 // What a folder is called within the one that holds it; a root is called as a whole.
 QString OwnName(const std::string &path) {
@@ -63,18 +93,18 @@ void DriveListView::wheelEvent(QWheelEvent *event) {
 DirListView::DirListView(DirListBox &shown, const Surroundings &around, QWidget *parent)
     : QListWidget(parent), ControlView(shown, around), folders(shown) {
   setFont(Look::ForAnyText({}));
+  setItemDelegate(new SteppedIn(*this));
 }
 
 // Ancestors step in from the root; the subfolders stand one step behind the open folder.
 void DirListView::ShowContent() {
   const QSignalBlocker silence(this);
-  const int indent = std::max(1, Scale().RoundedPixels(IndentInTwips) /
-                                     std::max(1, fontMetrics().horizontalAdvance(u' ')));
   clear();
   const std::size_t ancestors = folders.AncestorCount();
   for (std::size_t i = 0; i < folders.List().size(); ++i) {
-    const auto depth = static_cast<qsizetype>(std::min(i, ancestors));
-    addItem(QString(depth * indent, u' ') + OwnName(folders.List()[i]));
+    auto *item = new QListWidgetItem(OwnName(folders.List()[i]), this);
+    const int depth = static_cast<int>(std::min(i, ancestors));
+    item->setData(DepthRole, depth);
   }
   if (ancestors > 0)
     setCurrentRow(static_cast<int>(ancestors) - 1);

@@ -13,7 +13,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QScreen>
 #include <QToolTip>
 
@@ -118,8 +118,21 @@ void FormWindow::KeepOnTop() {
 void FormWindow::ComeToFront() {
   if (isVisible())
     raise();
+  else
+    FocusFirst();
   show();
   activateWindow();
+}
+
+// What it holds is selected, so that what is typed takes its place.
+void FormWindow::FocusFirst() {
+  const Control *first = form.FindControl(form.Design().firstFocus);
+  if (first == nullptr)
+    return;
+  QWidget *widget = WidgetOf(*first);
+  widget->setFocus(Qt::TabFocusReason);
+  if (auto *field = qobject_cast<QLineEdit *>(widget))
+    field->selectAll();
 }
 
 void FormWindow::ZoomByKey(int direction) {

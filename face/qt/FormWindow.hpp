@@ -57,6 +57,7 @@ private:
   void MakeControls();
   void OrderTabs();
   void GiveMenuItsAccessKeys();
+  void FocusFirst();
   void ZoomByKey(int direction);
   void LayOut(double newZoom);
   QSize SizeAtZoom() const;

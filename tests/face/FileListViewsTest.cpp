@@ -34,9 +34,52 @@ TEST_F(FileListViewsTest, FoldersAreTheAncestorsAndTheSubfolders) {
   auto &list = WidgetOf<QListWidget>(bench.Dir);
   ASSERT_EQ(list.count(), 4);
   EXPECT_EQ(list.item(0)->text(), QStringLiteral("/"));
-  EXPECT_EQ(list.item(1)->text().trimmed(), QStringLiteral("home"));
-  EXPECT_EQ(list.item(3)->text().trimmed(), QStringLiteral("work"));
+  EXPECT_EQ(list.item(1)->text(), QStringLiteral("home"));
+  EXPECT_EQ(list.item(3)->text(), QStringLiteral("work"));
   EXPECT_EQ(list.currentRow(), 1);
+}
+
+// How far to the right the first letter of an item begins.
+int StartOf(QListWidget &list, int row) {
+  const QImage drawn = list.viewport()->grab(list.visualItemRect(list.item(row))).toImage();
+  const QRgb ground = drawn.pixel(drawn.width() - 2, drawn.height() / 2);
+  for (int x = 3; x < drawn.width(); ++x)
+    for (int y = 2; y < drawn.height() - 2; ++y)
+      if (drawn.pixel(x, y) != ground)
+        return x;
+  return -1;
+}
+
+TEST_F(FileListViewsTest, EachFolderStepsInFromTheOneThatHoldsItAtAnyZoom) {
+  auto &list = WidgetOf<QListWidget>(bench.Dir);
+  for (const double zoom : {1.0, 2.0}) {
+    WindowOf(bench).SetZoom(zoom);
+    const int root = StartOf(list, 0);
+    EXPECT_GT(root, 0);
+    EXPECT_NEAR(StartOf(list, 1) - root, 10 * zoom, 5 * zoom);
+    EXPECT_NEAR(StartOf(list, 2) - StartOf(list, 1), 10 * zoom, 5 * zoom);
+    EXPECT_NEAR(StartOf(list, 3) - StartOf(list, 2), 0, 2 * zoom);
+  }
+}
+
+TEST_F(FileListViewsTest, FoldersStandAsCloseAsSounds) {
+  auto &folders = WidgetOf<QListWidget>(bench.Dir);
+  const QListWidget &sounds = WidgetOf<QListWidget>(bench.File);
+  for (int row = 0; row < folders.count(); ++row)
+    EXPECT_EQ(folders.sizeHintForRow(row), sounds.sizeHintForRow(0)) << row;
+}
+
+TEST_F(FileListViewsTest, AFolderAndASoundAreFoundByTypingHowTheyBegin) {
+  auto &folders = WidgetOf<QListWidget>(bench.Dir);
+  Focus(bench.Dir);
+  QTest::keyClicks(&folders, QStringLiteral("wo"));
+  EXPECT_EQ(folders.currentRow(), 3);
+  EXPECT_THAT(HeardOfLists(), IsEmpty());
+  auto &sounds = WidgetOf<QListWidget>(bench.File);
+  Focus(bench.File);
+  QTest::keyClicks(&sounds, QStringLiteral("le"));
+  EXPECT_EQ(sounds.currentRow(), 1);
+  EXPECT_THAT(HeardOfLists(), testing::Contains("File Click lead.tss"));
 }
 
 TEST_F(FileListViewsTest, ADoubleClickOrEnterOpensAFolderAndAClickDoesNot) {

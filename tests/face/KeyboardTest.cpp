@@ -118,6 +118,17 @@ TEST_F(KeyboardTest, FocusCanBeSeenOnWhateverHasIt) {
   }
 }
 
+TEST_F(KeyboardTest, WhereASoundIsSavedItsNameCanBeTypedAtOnce) {
+  app.F_Tessoro.InitSnd.UserClick();
+  for (Menu *direction : {&app.F_Tessoro.Menu_OpenSound, &app.F_Tessoro.Menu_SaveSound}) {
+    direction->UserClick();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(app.F_FileIO)));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("pad"));
+    EXPECT_EQ(app.F_FileIO.TextFilename.Text(), "pad");
+    app.F_FileIO.Unload();
+  }
+}
+
 TEST_F(KeyboardTest, AKnobLeavesTheFocusWhereItIs) {
   Focus(bench.Box);
   QTest::mouseClick(&WidgetOf(bench.Knob), Qt::LeftButton);
