@@ -20,6 +20,7 @@ using namespace std::chrono_literals;
 
 constexpr const char *MainTitle = "^Tessoro (freeware )?v[0-9]";
 constexpr const char *MicroQTitle = "^microQ";
+constexpr const char *HintTitle = "^Tessoro info$";
 // Of the menu, which comes in whole pixels.
 constexpr double Tolerance = 6;
 
@@ -161,8 +162,10 @@ TEST_F(WindowFramesTest, EveryKindOfWindowIsClosedByTheButtonInItsFrame) {
     manager->Click(display->WaitForWindow(title), FrameButton::Close);
     display->WaitUntilGone(title);
   };
+  editor->MainForm().Click(editor->Design().F_Tessoro.InitSnd); // wakes entries of the menu
   for (const auto &[keys, title] :
        {std::pair{"alt+f p", "^Preferences$"}, std::pair{"ctrl+o", "^Open:$"},
+        std::pair{"ctrl+s", "^Save .*/[.]tss$"}, std::pair{"ctrl+g", "^General sound settings$"},
         std::pair{"alt+a", "^About Tessoro$"}, std::pair{"alt+m Up Return", "^MIDI settings$"}}) {
     editor->MainForm().PressKeys(keys);
     closes(title);
@@ -173,6 +176,21 @@ TEST_F(WindowFramesTest, EveryKindOfWindowIsClosedByTheButtonInItsFrame) {
   closes(MicroQTitle);
   manager->Click(mainWindow, FrameButton::Close);
   EXPECT_EQ(editor->ExitStatus(), 0);
+}
+
+TEST_F(WindowFramesTest, TheHintIsClosedByTheButtonInItsFrameAndComesBackAtTheNextStart) {
+  std::string settings = SettingsWithPorts(0, 0);
+  settings.replace(settings.rfind("No"), 2, "Yes");
+  editor.reset();
+  place.WriteSettings(settings);
+  for (int start = 1; start <= 2; ++start) {
+    editor = std::make_unique<WindowedEditor>(*display, place);
+    manager->Click(display->WaitForWindow(HintTitle), FrameButton::Close);
+    // After eight seconds it would go by itself.
+    EXPECT_TRUE(Eventually([&] { return display->WindowCalled(HintTitle).empty(); }, 4s));
+    manager->Click(display->WaitForWindow(MainTitle), FrameButton::Close);
+    EXPECT_EQ(editor->ExitStatus(), 0);
+  }
 }
 
 TEST_F(WindowFramesTest, AMicroQThatIsThereFromTheStartStandsBesideTheMainWindow) {
