@@ -30,7 +30,7 @@ std::size_t NumberLength(const std::string &text) {
 
 } // namespace
 
-const std::vector<PaperRow> &ReadTable(const std::string &name) {
+const std::vector<PaperRow> &ReadTable(const char *name) {
   static std::map<std::string, std::vector<PaperRow>> tables;
   std::vector<PaperRow> &rows = tables[name];
   if (!rows.empty())

@@ -16,8 +16,9 @@ struct PaperFailure {
 
 // The words of a row of a table.
 using PaperRow = std::vector<std::string>;
-// All rows but the remarks.
-const std::vector<PaperRow> &ReadTable(const std::string &name);
+// All rows but the remarks. They stay until the end; given a std::string, g++ 13 would suspect that
+// they lie in it.
+const std::vector<PaperRow> &ReadTable(const char *name);
 // The rest of a row as it stands, from a word on.
 std::string RestOf(const PaperRow &row, std::size_t from);
 
