@@ -55,6 +55,19 @@ hasIcons() {
   test -f "$theme/scalable/apps/org.tessoro.Tessoro.svg"
 }
 
+# Whoever hands out packages knows where the pictures are. Each one named must be among them.
+showsScreenshots() {
+  local metainfo=$work/published/packaging/org.tessoro.Tessoro.metainfo.xml pictures picture
+  local address=https://www.example.org/pictures
+  cmake -S . -B "$work/published" -D TESSORO_TESTS=OFF -D TESSORO_PICTURES_URL=$address || return 1
+  appstreamcli validate --no-net "$metainfo" || return 1
+  pictures=$(sed -nE "s|.*<image>$address/(.*)</image>|\1|p" "$metainfo")
+  [ "$(wc -l <<<"$pictures")" -eq 3 ] || return 1
+  while read -r picture; do
+    test -f "docs/pictures/$picture" || return 1
+  done <<<"$pictures"
+}
+
 # The folder of sounds may have become known meanwhile.
 settingsAreKept() { diff <(sed 2d "$work/settings") <(sed 2d "$settings"); }
 
