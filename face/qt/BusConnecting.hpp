@@ -6,8 +6,8 @@
 namespace Tessoro {
 
 // The toolkit asks that bus for screen readers as soon as the first widget has a name, and waits
-// for the answer. To be begun behind the QApplication; whoever asks before it is done waits no
-// longer than else.
+// for the answer. To be begun behind the QApplication and to end before it; whoever asks before it
+// is done waits no longer than else.
 class BusConnecting {
 public:
   BusConnecting();

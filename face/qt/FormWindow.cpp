@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScreen>
 #include <QToolTip>
 
@@ -38,7 +39,7 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow
   MakeControls();
   OrderTabs();
   if (FormMenu::IsNeededBy(form))
-    menu = new FormMenu(form, surroundings.gate, this);
+    MakeMenu();
   ListenToZoomKeys(*this, [this](int direction) { ZoomByKey(direction); });
   endOfDrag.setSingleShot(true);
   connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);
@@ -62,6 +63,13 @@ void FormWindow::MakeControls() {
   for (Control *control : form.Controls())
     if (ControlView *view = MakeView(*control, surroundings, ground))
       views[control] = view;
+}
+
+// A list that keys open takes what the mouse lets go of.
+void FormWindow::MakeMenu() {
+  menu = new FormMenu(form, surroundings.gate, this);
+  for (const QMenu *list : menu->findChildren<QMenu *>())
+    connect(list, &QMenu::aboutToShow, this, &FormWindow::ReleaseAll);
 }
 
 void FormWindow::OrderTabs() {
@@ -254,9 +262,11 @@ void FormWindow::LetGo() {
 }
 
 // For what may shut the ports: a note that is held must end before.
-void FormWindow::ReleaseKeys() {
-  for (const auto &[control, view] : views)
+void FormWindow::ReleaseAll() {
+  for (const auto &[control, view] : views) {
     view->ReleaseKeys();
+    view->ReleaseButtons();
+  }
 }
 
 void FormWindow::BoxHasGone() {
@@ -270,7 +280,7 @@ bool FormWindow::eventFilter(QObject *watched, QEvent *event) {
   case QEvent::ShortcutOverride:
     // A box would keep editing keys for itself; an entry of the menu goes first.
     if (menu != nullptr && menu->Claims(*static_cast<QKeyEvent *>(event))) {
-      ReleaseKeys();
+      ReleaseAll();
       event->ignore();
       return true;
     }
@@ -323,12 +333,8 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
     surroundings.gate.Pass([&] { form.UserKeyUp(code, shift); });
 }
 
-// Closing may shut the ports, and a note that is held must end before.
 void FormWindow::closeEvent(QCloseEvent *event) {
-  for (const auto &[control, view] : views) {
-    view->ReleaseKeys();
-    view->ReleaseButtons();
-  }
+  ReleaseAll();
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

@@ -55,12 +55,13 @@ protected:
 
 private:
   void MakeControls();
+  void MakeMenu();
   void OrderTabs();
   void GiveMenuItsAccessKeys();
   void FocusFirst();
   void ZoomByKey(int direction);
   void LayOut(double newZoom);
-  void ReleaseKeys();
+  void ReleaseAll();
   QSize SizeAtZoom() const;
   bool FillsScreen() const;
   double ZoomThatFits() const;

@@ -101,7 +101,7 @@ void NoteKeyView::keyReleaseEvent(QKeyEvent *event) {
   timeOfRelease = event->timestamp();
   if (event->key() != holdingKey)
     PointerView::keyReleaseEvent(event);
-  else
+  else if (!event->isAutoRepeat())
     awaitRepeat.start(UntilRepeatMilliseconds);
 }
 

@@ -47,12 +47,8 @@ void QtScreen::FormLoading(Form &form) {
 // The others keep out of the way of the first, which may still be loading when they come up.
 void QtScreen::FormShown(Form &form) {
   FormWindow *window = WindowOf(form);
-  if (!window->isVisible()) {
-    if (window == windows.front())
-      window->OpenFirst();
-    else
-      window->OpenBesideOthers(*windows.front());
-  }
+  if (!window->isVisible() && window != windows.front())
+    window->OpenBesideOthers(*windows.front());
   window->ComeToFront();
 }
 

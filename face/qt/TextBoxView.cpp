@@ -49,7 +49,8 @@ void TextBoxView::focusInEvent(QFocusEvent *event) {
 
 void TextBoxView::keyPressEvent(QKeyEvent *event) {
   constexpr int enter = 13;
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !event->isAutoRepeat()) // one that is held gives its order once
     Enter([this] { box.UserKeyPress(enter); });
   if (IsAccessKey(*event))
     event->ignore();

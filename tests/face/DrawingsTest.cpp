@@ -84,7 +84,7 @@ TEST(Drawings, OfTheWindowsIconIsTheIconOfTheDesktop) {
   EXPECT_LT(MeanDifference(Drawn("icon", {128, 128}), fromFile), 1);
 }
 
-TEST(Drawings, GiveEachWindowItsIconBehindTheFirstFrame) {
+TEST(Drawings, GiveEachWindowItsIcon) {
   ASSERT_TRUE(QTest::qWaitFor([] { return !QApplication::windowIcon().isNull(); }));
   const QIcon icon = QApplication::windowIcon();
   for (const int side : {32, 64})

@@ -152,6 +152,21 @@ TEST_F(NoteKeyTest, AnEntryOfTheMenuFindsItReleased) {
   EXPECT_THAT(Heard(), ElementsAre(Down, Up, "Menu_Order Click"));
 }
 
+TEST_F(NoteKeyTest, TheMenuFindsReleasedWhatTheMouseHolds) {
+  QWidget &key = WidgetOf(bench.Key);
+  for (const auto modifier : {Qt::AltModifier, Qt::ControlModifier}) {
+    QTest::mousePress(&key, Qt::LeftButton);
+    QTest::keyClick(Window(), Qt::Key_O, modifier);
+    const std::vector<std::string> heard = Heard();
+    ASSERT_GE(heard.size(), 2U);
+    EXPECT_THAT(heard[1], testing::StartsWith("Key MouseUp"));
+    if (QWidget *list = QApplication::activePopupWidget())
+      list->close();
+    QTest::mouseRelease(&key, Qt::LeftButton);
+    EXPECT_THAT(Heard(), IsEmpty());
+  }
+}
+
 // The box takes the release away, and until it has gone no handler may run.
 TEST_F(NoteKeyTest, ABoxReleasesItWhenItHasGone) {
   bench.Key.onMouseDown = [this](const MouseEvent &) {

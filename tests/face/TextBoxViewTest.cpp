@@ -113,6 +113,16 @@ TEST_F(TextBoxViewTest, EnterIsAKeyPressAndLeavesTheText) {
   EXPECT_THAT(HeardOfBox(), ElementsAre("Box KeyPress 13", "Box KeyPress 13"));
 }
 
+TEST_F(TextBoxViewTest, EnterThatIsHeldGivesItsOrderOnce) {
+  QTest::keyPress(box, Qt::Key_Return);
+  for (int i = 0; i < 3; ++i) {
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                       true);
+    QCoreApplication::sendEvent(box, &repeated);
+  }
+  EXPECT_THAT(HeardOfBox(), ElementsAre("Box KeyPress 13"));
+}
+
 TEST_F(TextBoxViewTest, ADoubleClickIsAClickThenADoubleClick) {
   QTest::mouseClick(box, Qt::LeftButton);
   QTest::mouseDClick(box, Qt::LeftButton);
