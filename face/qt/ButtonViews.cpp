@@ -29,10 +29,10 @@ void CommandButtonView::GiveUpAccessKey() {
 }
 
 void CommandButtonView::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-    click();
-  else
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
     QPushButton::keyPressEvent(event);
+  else if (!event->isAutoRepeat())
+    click();
 }
 
 CheckBoxView::CheckBoxView(CheckBox &shown, const Surroundings &around, QWidget *parent)

@@ -37,8 +37,8 @@ public:
 
   // A message box takes the pointer and the keys away: lets go of what the user holds.
   virtual void LetGo() {}
-  // The keys that follow are no longer the control's: releases what a key holds down.
-  virtual void ReleaseKeys() {}
+  // The ports may shut now: ends a note that is held.
+  virtual void EndNote() {}
   // What the mouse holds can't be let go of any more: tells its release now.
   virtual void ReleaseButtons() {}
   // The box has gone, and so has the handler that raised it.

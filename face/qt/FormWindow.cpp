@@ -39,7 +39,7 @@ FormWindow::FormWindow(Form &shown, const Surroundings &around, const FormWindow
   MakeControls();
   OrderTabs();
   if (FormMenu::IsNeededBy(form))
-    MakeMenu();
+    MakeMenu(); // last: its name makes the toolkit wait for the desktop's bus
   ListenToZoomKeys(*this, [this](int direction) { ZoomByKey(direction); });
   endOfDrag.setSingleShot(true);
   connect(&endOfDrag, &QTimer::timeout, this, &FormWindow::TakeProportion);
@@ -65,11 +65,10 @@ void FormWindow::MakeControls() {
       views[control] = view;
 }
 
-// A list that keys open takes what the mouse lets go of.
 void FormWindow::MakeMenu() {
   menu = new FormMenu(form, surroundings.gate, this);
   for (const QMenu *list : menu->findChildren<QMenu *>())
-    connect(list, &QMenu::aboutToShow, this, &FormWindow::ReleaseAll);
+    connect(list, &QMenu::aboutToShow, this, &FormWindow::EndNotes);
 }
 
 void FormWindow::OrderTabs() {
@@ -261,12 +260,11 @@ void FormWindow::LetGo() {
     view->LetGo();
 }
 
-// For what may shut the ports: a note that is held must end before.
-void FormWindow::ReleaseAll() {
-  for (const auto &[control, view] : views) {
-    view->ReleaseKeys();
-    view->ReleaseButtons();
-  }
+// An entry of the menu may shut the ports, and a list that keys open takes what the mouse lets go
+// of. A knob is dragged on.
+void FormWindow::EndNotes() {
+  for (const auto &[control, view] : views)
+    view->EndNote();
 }
 
 void FormWindow::BoxHasGone() {
@@ -280,7 +278,7 @@ bool FormWindow::eventFilter(QObject *watched, QEvent *event) {
   case QEvent::ShortcutOverride:
     // A box would keep editing keys for itself; an entry of the menu goes first.
     if (menu != nullptr && menu->Claims(*static_cast<QKeyEvent *>(event))) {
-      ReleaseAll();
+      EndNotes();
       event->ignore();
       return true;
     }
@@ -334,7 +332,9 @@ void FormWindow::TakeKeyRelease(const QKeyEvent &event) {
 }
 
 void FormWindow::closeEvent(QCloseEvent *event) {
-  ReleaseAll();
+  EndNotes();
+  for (const auto &[control, view] : views)
+    view->ReleaseButtons();
   surroundings.gate.Pass([this] { form.UserClose(); });
   event->setAccepted(!form.IsLoaded());
 }

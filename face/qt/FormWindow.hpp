@@ -61,7 +61,7 @@ private:
   void FocusFirst();
   void ZoomByKey(int direction);
   void LayOut(double newZoom);
-  void ReleaseAll();
+  void EndNotes();
   QSize SizeAtZoom() const;
   bool FillsScreen() const;
   double ZoomThatFits() const;

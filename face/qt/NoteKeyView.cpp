@@ -65,6 +65,11 @@ void NoteKeyView::ReleaseKeys() {
   key.UserMouseUp(AtMiddle());
 }
 
+void NoteKeyView::EndNote() {
+  ReleaseKeys();
+  ReleaseButtons();
+}
+
 void NoteKeyView::BoxHasGone() {
   PointerView::BoxHasGone();
   ReleaseKeys();

@@ -16,7 +16,7 @@ public:
   // A press and its release.
   void Strike();
 
-  void ReleaseKeys() override;
+  void EndNote() override;
   void BoxHasGone() override;
 
 protected:
@@ -29,6 +29,7 @@ private:
   MouseEvent AtMiddle() const;
   bool IsRepeat(const QKeyEvent &event) const;
   void PressByKey(int holder);
+  void ReleaseKeys();
 
   NoteKey &key;
   // The key of the keyboard that holds this one down; 0 where none does.

@@ -45,9 +45,11 @@ void PointerView::Release(Qt::MouseButton button) {
 }
 
 void PointerView::ReleaseAllBut(Qt::MouseButtons buttons) {
-  for (const Qt::MouseButton each : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+  for (unsigned bit = Qt::LeftButton; bit <= Qt::MaxMouseButton; bit <<= 1U) {
+    const auto each = static_cast<Qt::MouseButton>(bit);
     if (held.testFlag(each) && !buttons.testFlag(each))
       Release(each);
+  }
 }
 
 void PointerView::BoxHasGone() { ReleaseAllBut(QGuiApplication::mouseButtons()); }

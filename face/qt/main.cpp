@@ -11,11 +11,13 @@
 
 namespace {
 
-constexpr const char *Help = "Usage: tessoro [--help] [--version]\n"
-                             "\n"
-                             "Edits the sound in the edit buffer of a Waldorf microQ over MIDI.\n"
-                             "The settings are kept in Tessoro.ini beside the program, or in the\n"
-                             "user's own folder for settings where that can't be written.\n";
+constexpr const char *Help =
+    "Usage: tessoro [--help] [--version]\n"
+    "\n"
+    "Edits the sound in the edit buffer of a Waldorf microQ over MIDI.\n"
+    "The settings are kept in Tessoro.ini beside the program, or in the\n"
+    "user's own folder for settings where it is installed for all or that\n"
+    "can't be written.\n";
 
 // Answered before anything needs a display.
 bool AnswersAlone(std::string_view argument) {

@@ -90,6 +90,12 @@ TEST_F(WindowKeyboardTest, AClickOnANoteKeyLeavesTheBoxThatIsBeingTypedIn) {
               ElementsAre(Parameter(Cutoff, 7), Note(60, 100), Note(60, 0), Parameter(Cutoff, 78)));
 }
 
+TEST_F(WindowKeyboardTest, AFilesNameIsTypedAtOnce) {
+  editor->MainForm().PressKeys("ctrl+o");
+  editor->FileForm().PressKeys("p a d");
+  display.WaitForWindow("^Open .*/pad$");
+}
+
 TEST_F(WindowKeyboardTest, AListSendsAtEveryStepOfTheArrowKeys) {
   editor->MainForm().Pick(Design().ComboOSC1oct, 0);
   Hear(1);

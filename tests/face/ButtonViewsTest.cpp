@@ -27,6 +27,20 @@ TEST_F(ButtonViewsTest, AButtonIsClickedByMouseSpaceAndEnter) {
   EXPECT_THAT(HeardClicks(), ElementsAre("Push Click", "Push Click", "Push Click"));
 }
 
+// As by someone who holds it until a row of boxes is through.
+TEST_F(ButtonViewsTest, AKeyThatIsHeldClicksItOnce) {
+  auto &push = WidgetOf<QPushButton>(bench.Push);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    QTest::keyPress(&push, key);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+      QKeyEvent repeated(type, key, Qt::NoModifier, {}, true);
+      QCoreApplication::sendEvent(&push, &repeated);
+    }
+    QTest::keyRelease(&push, key);
+    EXPECT_THAT(HeardClicks(), ElementsAre("Push Click")) << key;
+  }
+}
+
 TEST_F(ButtonViewsTest, ItsAccessKeyClicksIt) {
   QTest::keyClick(WindowOf(bench).windowHandle(), Qt::Key_P, Qt::AltModifier);
   LetPass(200); // the press is shown for a moment

@@ -167,6 +167,16 @@ TEST_F(NoteKeyTest, TheMenuFindsReleasedWhatTheMouseHolds) {
   }
 }
 
+TEST_F(NoteKeyTest, AKnobIsDraggedOnPastAnEntryOfTheMenu) {
+  QWidget &knob = WidgetOf(bench.Knob);
+  QTest::mousePress(&knob, Qt::LeftButton);
+  Heard();
+  QTest::keyClick(Window(), Qt::Key_O, Qt::ControlModifier);
+  EXPECT_THAT(Heard(), ElementsAre("Menu_Order Click"));
+  QTest::mouseRelease(&knob, Qt::LeftButton);
+  EXPECT_THAT(Heard(), testing::Contains(testing::StartsWith("Knob MouseUp")));
+}
+
 // The box takes the release away, and until it has gone no handler may run.
 TEST_F(NoteKeyTest, ABoxReleasesItWhenItHasGone) {
   bench.Key.onMouseDown = [this](const MouseEvent &) {
@@ -233,6 +243,13 @@ TEST_F(NoteKeyTest, AFormThatClosesReleasesItFirst) {
   WindowOf(bench).close();
   EXPECT_FALSE(bench.IsLoaded());
   EXPECT_THAT(Heard(), ElementsAre(Down, Up));
+}
+
+TEST_F(NoteKeyTest, AnyButtonOfTheMouseIsReleasedWithTheForm) {
+  QTest::mousePress(&WidgetOf(bench.Key), Qt::BackButton);
+  Heard();
+  WindowOf(bench).close();
+  EXPECT_THAT(Heard(), ElementsAre(testing::StartsWith("Key MouseUp")));
 }
 
 TEST_F(NoteKeyTest, ItHearsWithWhichKeysItIsPressed) {

@@ -59,13 +59,21 @@ hasIcons() {
 showsScreenshots() {
   local metainfo=$work/published/packaging/org.tessoro.Tessoro.metainfo.xml pictures picture
   local address=https://www.example.org/pictures
-  cmake -S . -B "$work/published" -D TESSORO_TESTS=OFF -D TESSORO_PICTURES_URL=$address || return 1
+  cmake -S . -B "$work/published" -D TESSORO_TESTS=OFF -D TESSORO_PICTURES_URL=$address \
+    -D TESSORO_HOMEPAGE=https://www.example.org || return 1
   appstreamcli validate --no-net "$metainfo" || return 1
   pictures=$(sed -nE "s|.*<image>$address/(.*)</image>|\1|p" "$metainfo")
   [ "$(wc -l <<<"$pictures")" -eq 3 ] || return 1
   while read -r picture; do
     test -f "docs/pictures/$picture" || return 1
   done <<<"$pictures"
+}
+
+hasManPages() {
+  local program
+  for program in tessoro tessoro-headless tessoro-monitor; do
+    test -f "$tree/usr/share/man/man1/$program.1.gz" || return 1
+  done
 }
 
 # The folder of sounds may have become known meanwhile.
