@@ -3,6 +3,7 @@
 #include "face/qt/Drawings.hpp"
 #include "face/qt/DrawnIcon.hpp"
 #include "face/qt/Look.hpp"
+#include "face/qt/RoundedBox.hpp"
 #include "face/qt/ScrollBarView.hpp"
 
 #include <QComboBox>
@@ -101,19 +102,11 @@ void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 }
 
 void FormStyle::DrawField(const QStyleOption &option, QPainter &painter) const {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
   const QColor back = option.palette.color(QPalette::Base);
   const double radius = Look::CornerRadius * ZoomOf(option);
-  painter.setBrush(back);
-  if (back == option.palette.color(QPalette::Window)) {
-    painter.setPen(Look::FrameColor()); // all that is seen of a field that blends into the ground
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-  } else {
-    painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(QRectF(option.rect), radius, radius);
-  }
-  painter.restore();
+  const bool blends =
+      back == option.palette.color(QPalette::Window); // its edge is all that is seen
+  DrawRoundedBox(painter, option.rect, radius, back, blends ? Look::FrameColor() : QColor());
   if (Has(option, State_HasFocus))
     Look::DrawFocusRing(painter, option.rect, radius, option.palette.color(QPalette::Text));
 }
@@ -145,11 +138,8 @@ void FormStyle::DrawButton(const QStyleOption &option, QPainter &painter) const 
 void FormStyle::DrawCombo(const QStyleOptionComplex &option, QPainter &painter,
                           const QWidget *widget) const {
   DrawField(option, painter);
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
   Look::DrawArrow(painter, subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
                   Look::Direction::Down, option.palette.color(QPalette::Text));
-  painter.restore();
 }
 
 void FormStyle::DrawBar(const QStyleOptionSlider &option, QPainter &painter,
@@ -158,18 +148,15 @@ void FormStyle::DrawBar(const QStyleOptionSlider &option, QPainter &painter,
   const bool isEnabled = Has(option, State_Enabled);
   const QColor ink = isEnabled ? Look::Ink() : Look::FadedInk();
   const auto rectOf = [&](SubControl part) {
-    return QRectF(subControlRect(CC_ScrollBar, &option, part, widget));
+    return subControlRect(CC_ScrollBar, &option, part, widget);
   };
   const auto isPressed = [&](SubControl part) {
     return option.activeSubControls.testFlag(part) && Has(option, State_Sunken);
   };
 
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Look::FrameColor());
-  painter.setBrush(option.palette.color(QPalette::Midlight));
   const double radius = (lies ? option.rect.height() : option.rect.width()) / 6.0;
-  painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  DrawRoundedBox(painter, option.rect, radius, option.palette.color(QPalette::Midlight),
+                 Look::FrameColor());
   Look::DrawArrow(painter, rectOf(SC_ScrollBarSubLine),
                   lies ? Look::Direction::Left : Look::Direction::Up,
                   isPressed(SC_ScrollBarSubLine) ? Look::FrameColor() : ink);
@@ -178,12 +165,9 @@ void FormStyle::DrawBar(const QStyleOptionSlider &option, QPainter &painter,
                   isPressed(SC_ScrollBarAddLine) ? Look::FrameColor() : ink);
   if (option.maximum > option.minimum) {
     const bool isHeld = isPressed(SC_ScrollBarSlider);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isHeld ? ink.lighter(150) : ink);
-    painter.drawRoundedRect(rectOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2), radius - 1,
-                            radius - 1);
+    DrawRoundedBox(painter, rectOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2), radius - 1,
+                   isHeld ? ink.lighter(150) : ink);
   }
-  painter.restore();
   if (Has(option, State_HasFocus))
     Look::DrawFocusRing(painter, QRectF(option.rect).adjusted(-1, -1, 1, 1), radius, Look::Ink());
 }

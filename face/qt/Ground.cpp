@@ -1,6 +1,7 @@
 #include "face/qt/Ground.hpp"
 
 #include "face/qt/Look.hpp"
+#include "face/qt/RoundedBox.hpp"
 #include "surface/Form.hpp"
 
 #include <QMouseEvent>
@@ -75,24 +76,23 @@ void Ground::paintEvent(QPaintEvent *event) {
 }
 
 void Ground::Draw(QPainter &painter, const Shape &shape) const {
-  const QRectF area = QRectF(scale.Rect(shape.DesignPlace())).adjusted(0.5, 0.5, -0.5, -0.5);
+  const QRect area = scale.Rect(shape.DesignPlace());
   const double radius = Look::CornerRadius * scale.zoom;
-  painter.setPen(Look::FrameColor());
   switch (shape.Kind()) {
   case ShapeKind::Panel:
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(area, 2 * radius, 2 * radius);
+    DrawRoundedBox(painter, area, 2 * radius, {}, Look::FrameColor());
     break;
   case ShapeKind::Inset:
-    painter.setBrush(palette().color(QPalette::Midlight));
-    painter.drawRoundedRect(area, radius, radius);
+    DrawRoundedBox(painter, area, radius, palette().color(QPalette::Midlight), Look::FrameColor());
     break;
   case ShapeKind::Rule: {
-    const bool lies = area.width() >= area.height();
-    painter.drawLine(lies ? QPointF(area.left(), area.center().y())
-                          : QPointF(area.center().x(), area.top()),
-                     lies ? QPointF(area.right(), area.center().y())
-                          : QPointF(area.center().x(), area.bottom()));
+    const QRectF line = QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5);
+    const bool lies = line.width() >= line.height();
+    painter.setPen(Look::FrameColor());
+    painter.drawLine(lies ? QPointF(line.left(), line.center().y())
+                          : QPointF(line.center().x(), line.top()),
+                     lies ? QPointF(line.right(), line.center().y())
+                          : QPointF(line.center().x(), line.bottom()));
     break;
   }
   }

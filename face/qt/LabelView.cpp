@@ -1,6 +1,7 @@
 #include "face/qt/LabelView.hpp"
 
 #include "face/qt/Look.hpp"
+#include "face/qt/RoundedBox.hpp"
 #include "face/qt/Text.hpp"
 
 #include <QAccessible>
@@ -88,11 +89,8 @@ void LabelView::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   QRect area = rect();
   if (label.Style() == LabelStyle::Readout) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Look::FrameColor());
-    painter.setBrush(palette().color(QPalette::ToolTipBase));
-    const double radius = Look::CornerRadius * Scale().zoom;
-    painter.drawRoundedRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    DrawRoundedBox(painter, area, Look::CornerRadius * Scale().zoom,
+                   palette().color(QPalette::ToolTipBase), Look::FrameColor());
     const int margin = Scale().RoundedPixels(75);
     area.adjust(margin, 0, -margin, 0);
   }
@@ -133,11 +131,8 @@ void FrameView::mouseReleaseEvent(QMouseEvent *event) {
 
 void FrameView::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Look::FrameColor());
-  painter.setBrush(palette().color(QPalette::Midlight));
-  const double radius = 2 * Look::CornerRadius * Scale().zoom;
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  DrawRoundedBox(painter, rect(), 2 * Look::CornerRadius * Scale().zoom,
+                 palette().color(QPalette::Midlight), Look::FrameColor());
 }
 
 } // namespace Tessoro
