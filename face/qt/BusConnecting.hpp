@@ -1,7 +1,7 @@
 // The connection to the desktop's message bus, made beside the making of the first window.
 #pragma once
 
-#include <thread>
+#include "face/qt/SideThread.hpp"
 
 namespace Tessoro {
 
@@ -13,7 +13,7 @@ public:
   BusConnecting();
 
 private:
-  std::jthread thread;
+  SideThread thread;
 };
 
 } // namespace Tessoro

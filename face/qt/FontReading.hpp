@@ -1,7 +1,7 @@
 // The machine's fonts, read beside the connection to the display.
 #pragma once
 
-#include <thread>
+#include "face/qt/SideThread.hpp"
 
 namespace Tessoro {
 
@@ -11,10 +11,10 @@ namespace Tessoro {
 class FontReading {
 public:
   FontReading();
-  void End() { thread.join(); }
+  void End() { thread.Join(); }
 
 private:
-  std::jthread thread;
+  SideThread thread;
 };
 
 } // namespace Tessoro
