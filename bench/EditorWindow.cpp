@@ -9,10 +9,11 @@
 #include <QApplication>
 
 int main(int argc, char *argv[]) {
+  Tessoro::ChooseEventLoop();
   Tessoro::FontReading fonts;
   const QApplication application(argc, argv);
-  const Tessoro::BusConnecting bus;
   fonts.End();
+  const Tessoro::BusConnecting bus;
   const Tessoro::FirstFrame firstFrame;
   Tessoro::DressApplication();
   const auto midi = Tessoro::MakeMachineMidiService(std::make_shared<Tessoro::BuiltinMicroQ>());

@@ -39,10 +39,11 @@ int main(int argc, char *argv[]) {
   for (int i = 1; i < argc; ++i)
     if (AnswersAlone(argv[i]))
       return 0;
+  Tessoro::ChooseEventLoop();
   Tessoro::FontReading fonts;
   const QApplication application(argc, argv);
-  const Tessoro::BusConnecting bus;
   fonts.End();
+  const Tessoro::BusConnecting bus; // with the memory of the thread that just ended
   Tessoro::DressApplication();
   const auto midi = Tessoro::MakeMidiService();
   return Tessoro::Program(*midi, Tessoro::ProgramPath()).Run();

@@ -8,6 +8,7 @@
 int main(int argc, char *argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
+  Tessoro::ChooseEventLoop();
   const QApplication application(argc, argv);
   Tessoro::DressApplication();
   return RUN_ALL_TESTS();
