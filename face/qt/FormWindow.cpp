@@ -88,11 +88,13 @@ void FormWindow::OrderTabs() {
 void FormWindow::GiveMenuItsAccessKeys() {
   if (menu == nullptr)
     return;
+  QList<QKeySequence> keys;
   for (const QAction *list : menu->QWidget::actions())
-    for (const auto &[control, view] : views)
-      if (auto *button = dynamic_cast<CommandButtonView *>(view);
-          button != nullptr && button->shortcut() == QKeySequence::mnemonic(list->text()))
-        button->GiveUpAccessKey();
+    keys.append(QKeySequence::mnemonic(list->text()));
+  for (const auto &[control, view] : views)
+    if (auto *button = dynamic_cast<CommandButtonView *>(view);
+        button != nullptr && keys.contains(button->shortcut()))
+      button->GiveUpAccessKey();
 }
 
 QWidget *FormWindow::WidgetOf(const Control &control) const {

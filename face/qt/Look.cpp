@@ -19,14 +19,15 @@ QColor FadedInk() { return {168, 134, 20}; }
 
 namespace {
 
-// Looked for once: of a list of names the toolkit looks up each, for each font.
+// Looked for once: of a list of names the toolkit looks up each, for each font. In the list of all,
+// as asking for one by its name has the system look for another that may stand for it.
 QString FindFamily() {
   const QStringList wished{QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
                            QStringLiteral("Segoe UI"), QStringLiteral("Helvetica Neue"),
                            QStringLiteral("Arial")};
-  const auto found = std::find_if(wished.begin(), wished.end(), [](const QString &each) {
-    return QFontDatabase::hasFamily(each);
-  });
+  const QStringList present = QFontDatabase::families();
+  const auto found = std::find_if(wished.begin(), wished.end(),
+                                  [&](const QString &each) { return present.contains(each); });
   return found == wished.end() ? QFont().family() : *found;
 }
 

@@ -10,6 +10,10 @@ namespace {
 
 constexpr std::size_t MostKept = 24;
 
+// The toolkit shares out what has more lines to threads of its own. To start and to wake those
+// takes longer than to paint a picture of some forty lines.
+constexpr int LinesAtOnce = 16;
+
 } // namespace
 
 QPixmap PictureStore::Draw(std::string_view name, QSize size, double devicePixelRatio) {
@@ -29,7 +33,10 @@ QPixmap PictureStore::Draw(std::string_view name, QSize size, double devicePixel
   QPixmap pixmap(pixels);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
-  Paint(*drawing, painter, QRectF(QPointF(0, 0), pixels));
+  for (int top = 0; top < pixels.height(); top += LinesAtOnce) {
+    painter.setClipRect(0, top, pixels.width(), LinesAtOnce);
+    Paint(*drawing, painter, QRectF(QPointF(0, 0), pixels));
+  }
   painter.end();
   pixmap.setDevicePixelRatio(devicePixelRatio);
   return drawn[key] = pixmap;
