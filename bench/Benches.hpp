@@ -46,6 +46,6 @@ void RegisterFiles();
 void RegisterInit();
 void RegisterKnob();
 // Needs a JACK server, as long as anything is measured.
-void RegisterWire();
+void RegisterWire(int repetitions);
 
 } // namespace Tessoro::Benches

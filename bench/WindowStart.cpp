@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -19,6 +20,9 @@ namespace Tessoro {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+// Until the display has forgotten the window that went.
+constexpr std::chrono::milliseconds RestBetweenStarts{30};
 
 WindowStart StartOnce(const char *program, const std::string &argument) {
   std::array<int, 2> pipeEnds{};
@@ -41,6 +45,7 @@ WindowStart StartOnce(const char *program, const std::string &argument) {
   wait4(process, &status, 0, &usage);
   if (!painted || status != 0)
     throw std::runtime_error(std::string(program) + " did not paint");
+  std::this_thread::sleep_for(RestBetweenStarts);
   constexpr double kibibytesInMebibyte = 1024;
   return {time.count(), static_cast<double>(usage.ru_maxrss) / kibibytesInMebibyte};
 }
