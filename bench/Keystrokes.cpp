@@ -2,6 +2,7 @@
 // argument is the program's directory. One line: the 99th percentiles of both, in microseconds.
 #include "bench/NullMidi.hpp"
 #include "face/qt/FormWindow.hpp"
+#include "face/qt/Launch.hpp"
 #include "face/qt/Program.hpp"
 
 #include <QApplication>
@@ -54,6 +55,7 @@ Microseconds StrikeByTurns(QWidget &field, int i) {
 int main(int argc, char *argv[]) {
   using namespace Tessoro;
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  ChooseEventLoop();
   const QApplication application(argc, argv);
   DressApplication();
   NullMidi midi;

@@ -4,6 +4,7 @@
 #include "bench/NullMidi.hpp"
 #include "bench/QuietPlatform.hpp"
 #include "face/microq/MicroQWindow.hpp"
+#include "face/qt/Launch.hpp"
 #include "face/qt/MidiOfBuild.hpp"
 #include "face/qt/Program.hpp"
 
@@ -63,6 +64,7 @@ double TimeOfLook(MicroQWindow &window) {
 
 int main(int argc, char *argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  ChooseEventLoop();
   const QApplication application(argc, argv);
   DressApplication();
   NullMidi nullService;

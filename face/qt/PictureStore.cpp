@@ -10,9 +10,11 @@ namespace {
 
 constexpr std::size_t MostKept = 24;
 
-// The toolkit shares out what has more lines to threads of its own. To start and to wake those
-// takes longer than to paint a picture of some forty lines.
-constexpr int LinesAtOnce = 16;
+// A picture of some forty lines is painted in strips: the toolkit shares out what has more spans
+// than those have to threads of its own, and to start and to wake them takes longer than to paint.
+// In a large one they are worth it.
+constexpr int LinesOfStrip = 16;
+constexpr int MostLinesInStrips = 100;
 
 } // namespace
 
@@ -33,8 +35,9 @@ QPixmap PictureStore::Draw(std::string_view name, QSize size, double devicePixel
   QPixmap pixmap(pixels);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
-  for (int top = 0; top < pixels.height(); top += LinesAtOnce) {
-    painter.setClipRect(0, top, pixels.width(), LinesAtOnce);
+  const int lines = pixels.height() <= MostLinesInStrips ? LinesOfStrip : pixels.height();
+  for (int top = 0; top < pixels.height(); top += lines) {
+    painter.setClipRect(0, top, pixels.width(), lines);
     Paint(*drawing, painter, QRectF(QPointF(0, 0), pixels));
   }
   painter.end();

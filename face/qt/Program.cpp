@@ -39,12 +39,6 @@ bool ServesAllUsers(const QString &folder) {
 
 } // namespace
 
-void ChooseEventLoop() {
-  constexpr const char *variable = "QT_NO_GLIB"; // the toolkit offers no other way
-  if (!qEnvironmentVariableIsSet(variable))
-    qputenv(variable, "1");
-}
-
 void DressApplication() {
   QApplication::setStyle(new FormStyle);
   QApplication::setFont(Look::Font(TextSize::Control, {})); // before the system's own is loaded

@@ -12,11 +12,6 @@
 
 namespace Tessoro {
 
-// Before the QApplication is made. GLib's event loop, the toolkit's usual one, makes a system call
-// for each event that is posted, some 600 until the first frame; the toolkit's own makes one for
-// all that wait. Whoever sets QT_NO_GLIB to nothing keeps GLib's.
-void ChooseEventLoop();
-
 // Gives the QApplication of this process the look of the editor.
 void DressApplication();
 

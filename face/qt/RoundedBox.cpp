@@ -28,11 +28,16 @@ void DrawSmoothed(QPainter &painter, const QRectF &area, double radius, const QC
   painter.restore();
 }
 
-// A name in the toolkit's cache, which forgets what was not asked for the longest.
+constexpr double StepsOfRadius = 64; // finer than eyes are
+
+double RoundedRadius(double radius) { return std::round(radius * StepsOfRadius) / StepsOfRadius; }
+
+// A name in the toolkit's cache, which forgets what was not asked for the longest. The radius is a
+// rounded one, so that what has one name has corners of one size.
 QString NameOf(double radius, QRgb fill, QRgb edge) {
-  constexpr double steps = 64; // finer than eyes are
+  const auto steps = static_cast<unsigned>(std::lround(radius * StepsOfRadius));
   QString name = QStringLiteral("Tessoro box ");
-  for (const unsigned part : {static_cast<unsigned>(std::lround(radius * steps)), fill, edge}) {
+  for (const unsigned part : {steps, fill, edge}) {
     name += QChar(static_cast<char16_t>(part >> 16));
     name += QChar(static_cast<char16_t>(part & 0xFFFF));
   }
@@ -67,14 +72,15 @@ bool StandsOnPixels(const QPainter &painter) {
 
 void DrawRoundedBox(QPainter &painter, const QRect &area, double radius, const QColor &fill,
                     const QColor &edge) {
-  const int corner = static_cast<int>(std::ceil(radius)) + 1;
+  const double kept = RoundedRadius(radius);
+  const int corner = static_cast<int>(std::ceil(kept)) + 1;
   const QRect middle = area.adjusted(corner, corner, -corner, -corner);
   if (!StandsOnPixels(painter) || middle.isEmpty()) {
     DrawSmoothed(painter, area, radius, fill, edge);
     return;
   }
 
-  const QPixmap box = SmallestBox(corner, radius, fill, edge);
+  const QPixmap box = SmallestBox(corner, kept, fill, edge);
   const int right = middle.right() + 1;
   const int bottom = middle.bottom() + 1;
   const int second = corner + 1; // where the far corners begin in the smallest box

@@ -16,8 +16,7 @@ struct Task {
 // Only its first processor is prescribed.
 void *Do(void *given) {
   const std::unique_ptr<Task> task(static_cast<Task *>(given));
-  if (CPU_COUNT(&task->allowed) > 0)
-    pthread_setaffinity_np(pthread_self(), sizeof task->allowed, &task->allowed);
+  pthread_setaffinity_np(pthread_self(), sizeof task->allowed, &task->allowed);
   task->work();
   return nullptr;
 }
@@ -41,10 +40,12 @@ SideThread::SideThread(void (*work)()) {
 
   pthread_attr_t attributes;
   pthread_attr_init(&attributes);
-  if (CPU_COUNT(&others) > 0)
-    pthread_attr_setaffinity_np(&attributes, sizeof others, &others);
+  pthread_attr_setaffinity_np(&attributes, sizeof others, &others);
   Task *const given = task.release(); // who does it deletes it
-  isRunning = pthread_create(&thread, &attributes, Do, given) == 0;
+  const auto begin = [&](const pthread_attr_t *how) {
+    return pthread_create(&thread, how, Do, given) == 0;
+  };
+  isRunning = begin(&attributes) || begin(nullptr); // where there is one processor, or no choice
   pthread_attr_destroy(&attributes);
   if (!isRunning)
     Do(given);

@@ -1,10 +1,7 @@
 // The editor in windows.
-#include "face/qt/BusConnecting.hpp"
-#include "face/qt/FontReading.hpp"
+#include "face/qt/Launch.hpp"
 #include "face/qt/MidiOfBuild.hpp"
 #include "face/qt/Program.hpp"
-
-#include <QApplication>
 
 #include <cstdio>
 #include <string_view>
@@ -39,11 +36,7 @@ int main(int argc, char *argv[]) {
   for (int i = 1; i < argc; ++i)
     if (AnswersAlone(argv[i]))
       return 0;
-  Tessoro::ChooseEventLoop();
-  Tessoro::FontReading fonts;
-  const QApplication application(argc, argv);
-  fonts.End();
-  const Tessoro::BusConnecting bus; // with the memory of the thread that just ended
+  const Tessoro::Launch launch(argc, argv);
   Tessoro::DressApplication();
   const auto midi = Tessoro::MakeMidiService();
   return Tessoro::Program(*midi, Tessoro::ProgramPath()).Run();

@@ -1,4 +1,4 @@
-#include "face/qt/Program.hpp"
+#include "face/qt/Launch.hpp"
 
 #include <QAbstractEventDispatcher>
 #include <QByteArray>

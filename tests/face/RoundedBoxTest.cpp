@@ -19,7 +19,7 @@ const QColor Navy(0, 0, 128);
 const QColor Gold(201, 160, 10);
 constexpr int Side = 64;
 
-QImage Drawn(double scale, const std::function<void(QPainter &)> &draw) {
+QImage OnAmber(double scale, const std::function<void(QPainter &)> &draw) {
   QImage image(Side, Side, QImage::Format_RGB32);
   image.fill(QColor(255, 200, 40));
   QPainter painter(&image);
@@ -30,7 +30,7 @@ QImage Drawn(double scale, const std::function<void(QPainter &)> &draw) {
 
 QImage ByThePainter(const QRect &area, double radius, const QColor &fill, const QColor &edge,
                     double scale = 1) {
-  return Drawn(scale, [&](QPainter &painter) {
+  return OnAmber(scale, [&](QPainter &painter) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
     painter.setPen(edge.isValid() ? QPen(edge) : QPen(Qt::NoPen));
@@ -41,8 +41,8 @@ QImage ByThePainter(const QRect &area, double radius, const QColor &fill, const 
 
 QImage AsABox(const QRect &area, double radius, const QColor &fill, const QColor &edge,
               double scale = 1) {
-  return Drawn(scale,
-               [&](QPainter &painter) { DrawRoundedBox(painter, area, radius, fill, edge); });
+  return OnAmber(scale,
+                 [&](QPainter &painter) { DrawRoundedBox(painter, area, radius, fill, edge); });
 }
 
 int LargestDifference(const QImage &one, const QImage &other) {
@@ -100,6 +100,20 @@ TEST(RoundedBox, OfAWidgetIsDrawnInTheFinerPixelsOfAPicture) {
   picture.setDevicePixelRatio(1);
   EXPECT_LE(LargestDifference(picture, ByThePainter(QRect(0, 0, 32, 32), 3, Navy, Gold, 2)),
             Unseen);
+}
+
+// As while a window is dragged larger, pixel by pixel.
+TEST(RoundedBox, OfNearlyTheSameRadiusHasWholeCorners) {
+  const QRect area(0, 0, 40, 30);
+  const QColor green(0, 96, 0);
+  for (const double radius : {3.0, 3.004})
+    EXPECT_LE(LargestDifference(AsABox(area, radius, green, Gold),
+                                ByThePainter(area, radius, green, Gold)),
+              Unseen);
+  for (const double radius : {3.004, 3.0})
+    EXPECT_LE(LargestDifference(AsABox(area, radius, green, Navy),
+                                ByThePainter(area, radius, green, Navy)),
+              Unseen);
 }
 
 // Corners are kept by their colours.
