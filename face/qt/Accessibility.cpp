@@ -1,8 +1,9 @@
 #include "face/qt/Accessibility.hpp"
 
 #include "face/qt/ComboBoxView.hpp"
+#include "face/qt/DrawnDescriptions.hpp"
+#include "face/qt/Ground.hpp"
 #include "face/qt/ItemList.hpp"
-#include "face/qt/LabelView.hpp"
 #include "face/qt/NoteKeyView.hpp"
 #include "face/qt/PointerViews.hpp"
 #include "face/qt/ScrollBarView.hpp"
@@ -103,21 +104,6 @@ private:
   ComboBoxView &field;
 };
 
-// A label is called what it shows, unless it shows a bare value and says what that is.
-class LabelDescription : public QAccessibleWidget {
-public:
-  explicit LabelDescription(LabelView &view)
-      : QAccessibleWidget(&view, QAccessible::StaticText), label(view) {}
-
-  QString text(QAccessible::Text kind) const override {
-    const QString said = QAccessibleWidget::text(kind);
-    return kind == QAccessible::Name && said.isEmpty() ? label.Text() : said;
-  }
-
-private:
-  LabelView &label;
-};
-
 // What is pressed and is no button of the toolkit.
 class PressedDescription : public QAccessibleWidget {
 public:
@@ -161,14 +147,12 @@ QAccessibleInterface *Describe(const QString & /*className*/, QObject *object) {
     return new BarDescription(*bar);
   if (auto *field = dynamic_cast<ComboBoxView *>(object))
     return new ListFieldDescription(*field);
-  if (auto *label = dynamic_cast<LabelView *>(object))
-    return new LabelDescription(*label);
   if (auto *image = dynamic_cast<ImageView *>(object))
     return DescribeImage(*image);
   if (auto *key = dynamic_cast<NoteKeyView *>(object))
     return new PressedDescription(*key, QAccessible::Button, [key] { key->Strike(); });
-  if (auto *frame = dynamic_cast<FrameView *>(object))
-    return new QAccessibleWidget(frame, QAccessible::Grouping, frame->window()->windowTitle());
+  if (auto *ground = dynamic_cast<Ground *>(object))
+    return DescribeGround(*ground);
   return nullptr;
 }
 

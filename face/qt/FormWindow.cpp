@@ -110,12 +110,10 @@ void FormWindow::ShowCaption() {
 void FormWindow::Show(Control &control, Property property) {
   if (const auto found = views.find(&control); found != views.end())
     found->second->Show(property);
-  else if (property == Property::Ends)
-    ground->ShowEnds(static_cast<Line &>(control));
   else if (control.Type() == ControlType::Menu)
     menu->Show(static_cast<Menu &>(control));
-  else if (property == Property::Visible)
-    ground->update(); // a shape or a line
+  else
+    ground->Show(control, property);
 }
 
 void FormWindow::KeepOnTop() {

@@ -1,108 +1,101 @@
 #include "face/qt/Ground.hpp"
 
-#include "face/qt/Look.hpp"
-#include "face/qt/RoundedBox.hpp"
+#include "face/qt/DrawnDescriptions.hpp"
+#include "face/qt/Text.hpp"
 #include "surface/Form.hpp"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace Tessoro {
 
-namespace {
-
-constexpr double LineWidth = 2; // pixels at a zoom of 1
-
-} // namespace
-
 Ground::Ground(Form &shown, const Gate &entrance, QWidget *parent)
-    : QWidget(parent), form(shown), gate(entrance) {
+    : QWidget(parent), form(shown), gate(entrance), drawn(MakeDrawnControls(shown)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  for (const Control *control : form.Controls()) {
-    if (const auto *shape = dynamic_cast<const Shape *>(control))
-      shapes.push_back(shape);
-    else if (const auto *line = dynamic_cast<const Line *>(control))
-      lines.push_back({line, line->Ends()});
-  }
 }
 
 void Ground::SetScale(const Scale &newScale) {
-  scale = newScale;
-  setFont(Look::Font(TextSize::Control, scale)); // that of all controls that have none of their own
-  resize(scale.RoundedPixels(form.Design().width), scale.RoundedPixels(form.Design().height));
+  look = GroundLook(newScale);
+  setFont(look.FontOf(LabelStyle::Plain)); // that of all controls that have none of their own
+  resize(newScale.RoundedPixels(form.Design().width), newScale.RoundedPixels(form.Design().height));
+  for (const auto &each : drawn)
+    each->Follow(newScale);
   update();
 }
 
-void Ground::ShowEnds(const Line &line) {
-  for (DrawnLine &drawn : lines) {
-    if (drawn.line != &line)
-      continue;
-    UpdateLine(drawn.ends);
-    drawn.ends = line.Ends();
-    UpdateLine(drawn.ends);
-  }
+void Ground::Show(const Control &control, Property property) {
+  DrawnControl *changed = DrawnFor(control);
+  if (changed == nullptr)
+    return;
+  update(changed->Area());
+  changed->Follow(look.scale);
+  update(changed->Area());
+  TellScreenReaders(*this, *changed, property);
 }
 
-QRectF Ground::RectOf(const LineEnds &ends) const {
-  return QRectF(QPointF(scale.Pixels(ends.x1), scale.Pixels(ends.y1)),
-                QPointF(scale.Pixels(ends.x2), scale.Pixels(ends.y2)))
-      .normalized();
+DrawnControl *Ground::DrawnFor(const Control &control) const {
+  const auto found = std::find_if(drawn.begin(), drawn.end(),
+                                  [&](const auto &each) { return &each->Shown() == &control; });
+  return found == drawn.end() ? nullptr : found->get();
 }
 
-void Ground::UpdateLine(const LineEnds &ends) {
-  const double around = LineWidth * scale.zoom + 1;
-  const QRectF touched = RectOf(ends).adjusted(-around, -around, around, around);
-  update(touched.intersected(QRectF(rect())).toAlignedRect());
+DrawnControl *Ground::DrawnAt(QPoint place) const {
+  if (childAt(place) != nullptr)
+    return nullptr;
+  const auto found = std::find_if(drawn.rbegin(), drawn.rend(), [&](const auto &each) {
+    return each->StandsForItself() && each->Shown().Visible() && each->Area().contains(place);
+  });
+  return found == drawn.rend() ? nullptr : found->get();
 }
 
-void Ground::mousePressEvent(QMouseEvent *event) { event->accept(); }
+bool Ground::event(QEvent *event) {
+  if (event->type() == QEvent::ToolTip && ShowToolTip(*static_cast<QHelpEvent *>(event)))
+    return true;
+  return QWidget::event(event);
+}
+
+bool Ground::ShowToolTip(const QHelpEvent &event) {
+  const DrawnControl *below = DrawnAt(event.pos());
+  if (below == nullptr || below->Shown().ToolTipText().empty())
+    return false;
+  QToolTip::showText(event.globalPos(), FromModel(below->Shown().ToolTipText()), this,
+                     below->Area());
+  return true;
+}
+
+// A disabled widget leaves its clicks to the ground, not to what is drawn below it.
+DrawnControl *Ground::ClickedAt(QPoint place) const {
+  DrawnControl *top = DrawnAt(place);
+  return top != nullptr && top->Shown().Enabled() ? top : nullptr;
+}
+
+void Ground::mousePressEvent(QMouseEvent *event) {
+  event->accept();
+  if (event->button() == Qt::LeftButton)
+    pressed = ClickedAt(event->pos());
+}
 
 void Ground::mouseReleaseEvent(QMouseEvent *event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+  if (event->button() != Qt::LeftButton || !rect().contains(event->pos()))
+    return;
+  if (pressed == nullptr)
     gate.Pass([this] { form.UserClick(); });
+  else if (pressed == ClickedAt(event->pos()))
+    gate.Pass([this] { pressed->Click(); });
 }
 
 void Ground::paintEvent(QPaintEvent *event) {
   QPainter painter(this);
-  painter.fillRect(event->rect(), palette().color(QPalette::Window));
-  painter.setRenderHint(QPainter::Antialiasing);
-  for (const Shape *shape : shapes)
-    if (shape->Visible())
-      Draw(painter, *shape);
-  for (const DrawnLine &drawn : lines)
-    if (drawn.line->Visible())
-      Draw(painter, drawn);
-}
-
-void Ground::Draw(QPainter &painter, const Shape &shape) const {
-  const QRect area = scale.Rect(shape.DesignPlace());
-  const double radius = Look::CornerRadius * scale.zoom;
-  switch (shape.Kind()) {
-  case ShapeKind::Panel:
-    DrawRoundedBox(painter, area, 2 * radius, {}, Look::FrameColor());
-    break;
-  case ShapeKind::Inset:
-    DrawRoundedBox(painter, area, radius, palette().color(QPalette::Midlight), Look::FrameColor());
-    break;
-  case ShapeKind::Rule: {
-    const QRectF line = QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5);
-    const bool lies = line.width() >= line.height();
-    painter.setPen(Look::FrameColor());
-    painter.drawLine(lies ? QPointF(line.left(), line.center().y())
-                          : QPointF(line.center().x(), line.top()),
-                     lies ? QPointF(line.right(), line.center().y())
-                          : QPointF(line.center().x(), line.bottom()));
-    break;
-  }
-  }
-}
-
-void Ground::Draw(QPainter &painter, const DrawnLine &drawn) const {
-  painter.setPen(QPen(Look::FromModel(drawn.line->LineColor()), LineWidth * scale.zoom,
-                      Qt::SolidLine, Qt::RoundCap));
-  painter.drawLine(QPointF(scale.Pixels(drawn.ends.x1), scale.Pixels(drawn.ends.y1)),
-                   QPointF(scale.Pixels(drawn.ends.x2), scale.Pixels(drawn.ends.y2)));
+  look.palette = palette();
+  painter.fillRect(event->rect(), look.palette.color(QPalette::Window));
+  for (const auto &each : drawn)
+    if (each->Shown().Visible() && event->region().intersects(each->Area()))
+      each->Draw(painter, look);
 }
 
 } // namespace Tessoro

@@ -1,48 +1,50 @@
-// The ground of a form, with the shapes and lines on it.
+// The ground of a form, with the labels, frames, shapes and lines on it.
 #pragma once
 
+#include "face/qt/DrawnControl.hpp"
 #include "face/qt/Gate.hpp"
-#include "face/qt/Scale.hpp"
-#include "surface/Decoration.hpp"
 
 #include <QWidget>
 
+#include <memory>
 #include <vector>
+
+class QHelpEvent;
 
 namespace Tessoro {
 
-class Form;
-
-// Shapes and lines are no widgets of their own: they are drawn here, below all controls, and are
-// clipped by the window alone.
+// Draws what is no widget of its own below all controls that are, and does for it what a widget
+// would: takes its clicks and shows its tool tips.
 class Ground : public QWidget {
 public:
   Ground(Form &shown, const Gate &entrance, QWidget *parent);
 
+  const Form &Shown() const { return form; }
   void SetScale(const Scale &newScale);
-  void ShowEnds(const Line &line);
+  // A property of a control has changed that may be drawn here.
+  void Show(const Control &control, Property property);
+  // Null for a control that isn't drawn here.
+  DrawnControl *DrawnFor(const Control &control) const;
+  // What is to be seen and stands for itself at that place; null where the bare ground is, or a
+  // widget.
+  DrawnControl *DrawnAt(QPoint place) const;
 
 protected:
+  bool event(QEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
 private:
-  struct DrawnLine {
-    const Line *line;
-    LineEnds ends; // where it was last told to be drawn
-  };
-
-  QRectF RectOf(const LineEnds &ends) const;
-  void UpdateLine(const LineEnds &ends);
-  void Draw(QPainter &painter, const Shape &shape) const;
-  void Draw(QPainter &painter, const DrawnLine &drawn) const;
+  bool ShowToolTip(const QHelpEvent &event);
+  // What takes a click at that place; null for the ground itself.
+  DrawnControl *ClickedAt(QPoint place) const;
 
   Form &form;
   const Gate &gate;
-  Scale scale;
-  std::vector<const Shape *> shapes;
-  std::vector<DrawnLine> lines;
+  GroundLook look;
+  const std::vector<std::unique_ptr<DrawnControl>> drawn;
+  DrawnControl *pressed = nullptr;
 };
 
 } // namespace Tessoro

@@ -3,7 +3,6 @@
 #include "face/qt/ButtonViews.hpp"
 #include "face/qt/ComboBoxView.hpp"
 #include "face/qt/FileListViews.hpp"
-#include "face/qt/LabelView.hpp"
 #include "face/qt/NoteKeyView.hpp"
 #include "face/qt/PointerViews.hpp"
 #include "face/qt/ScrollBarView.hpp"
@@ -28,17 +27,15 @@ struct ViewRow {
   Maker make;
 };
 
-constexpr std::array<ViewRow, 13> Rows{{
+constexpr std::array<ViewRow, 11> Rows{{
     {ControlType::TextBox, Make<TextBoxView, TextBox>},
     {ControlType::ComboBox, Make<ComboBoxView, ComboBox>},
     {ControlType::CheckBox, Make<CheckBoxView, CheckBox>},
     {ControlType::CommandButton, Make<CommandButtonView, CommandButton>},
     {ControlType::HScrollBar, Make<ScrollBarView, ScrollBar>},
     {ControlType::VScrollBar, Make<ScrollBarView, ScrollBar>},
-    {ControlType::Label, Make<LabelView, Label>},
     {ControlType::Image, Make<ImageView, Image>},
     {ControlType::NoteKey, Make<NoteKeyView, NoteKey>},
-    {ControlType::Frame, Make<FrameView, Frame>},
     {ControlType::DriveListBox, Make<DriveListView, DriveListBox>},
     {ControlType::DirListBox, Make<DirListView, DirListBox>},
     {ControlType::FileListBox, Make<FileListView, FileListBox>},

@@ -5,8 +5,8 @@
 
 namespace Tessoro {
 
-// Null for what is no widget of its own: lines, shapes, menu entries and timers, and controls
-// without width. The widget belongs to its parent.
+// Null for what is no widget of its own: what the ground draws, menu entries and timers, and
+// controls without width. The widget belongs to its parent.
 ControlView *MakeView(Control &control, const Surroundings &around, QWidget *parent);
 
 } // namespace Tessoro

@@ -1,3 +1,4 @@
+#include "face/qt/DrawnDescriptions.hpp"
 #include "tests/face/FaceTest.hpp"
 
 #include <QAccessible>
@@ -8,7 +9,12 @@ namespace {
 class AccessibilityTest : public FaceTest {
 protected:
   QAccessibleInterface &Description(const Control &control) {
+    if (const DrawnControl *drawn = DrawnFor(control))
+      return *DescriptionOf(GroundOf(control.Owner()), *drawn);
     return *QAccessible::queryAccessibleInterface(&WidgetOf(control));
+  }
+  QAccessibleInterface &OfGround() {
+    return *QAccessible::queryAccessibleInterface(&GroundOf(bench));
   }
   std::string NameOf(const Control &control) {
     return Description(control).text(QAccessible::Name).toStdString();
@@ -24,9 +30,10 @@ TEST_F(AccessibilityTest, EveryControlOfEveryFormHasAName) {
   for (const Form *form : app.Forms())
     for (const Control *control : form->Controls()) {
       const auto *label = dynamic_cast<const Label *>(control);
-      const bool isNameless =
-          control->Type() == ControlType::Frame || (label != nullptr && label->Caption().empty());
-      if (WindowOf(*form).WidgetOf(*control) != nullptr && !isNameless) {
+      const bool isNameless = label != nullptr && label->Caption().empty();
+      const bool isShown =
+          WindowOf(*form).WidgetOf(*control) != nullptr || DrawnFor(*control) != nullptr;
+      if (isShown && !isNameless) {
         EXPECT_NE(NameOf(*control), "") << form->Name() << "." << control->Name();
       }
     }
@@ -44,8 +51,56 @@ TEST_F(AccessibilityTest, ALabelIsCalledWhatItShowsNow) {
   EXPECT_EQ(NameOf(bench.Tag), "other words");
 }
 
+TEST_F(AccessibilityTest, AReaderIsToldWhatALabelIsCalledNowAndThatItHides) {
+  EXPECT_EQ(NewsOf(bench.Tag, Property::Caption), QAccessible::NameChanged);
+  EXPECT_EQ(NewsOf(bench.Tag, Property::Visible), QAccessible::ObjectShow);
+  bench.Tag.SetVisible(false);
+  EXPECT_EQ(NewsOf(bench.Tag, Property::Visible), QAccessible::ObjectHide);
+  EXPECT_EQ(NewsOf(bench.Tag, Property::Width), std::nullopt);
+}
+
+TEST_F(AccessibilityTest, LabelsStandAmongTheOtherControlsInTheOrderOfTheForm) {
+  QAccessibleInterface &ground = OfGround();
+  const auto placeOf = [&](const Control &control) {
+    return ground.indexOfChild(&Description(control));
+  };
+  EXPECT_GE(placeOf(bench.Title), 0);
+  EXPECT_LT(placeOf(bench.Title), placeOf(bench.Tag));
+  EXPECT_LT(placeOf(bench.Tag), placeOf(bench.Box));
+  EXPECT_LT(placeOf(bench.Box), placeOf(bench.Group));
+  EXPECT_LT(placeOf(bench.Group), placeOf(bench.Drive));
+  EXPECT_EQ(placeOf(app.F_Tessoro.LabelF1_cutoff), -1) << "it lies on another form";
+  for (int i = 0; i < ground.childCount(); ++i) {
+    EXPECT_EQ(ground.indexOfChild(ground.child(i)), i);
+    EXPECT_EQ(ground.child(i)->parent(), &ground) << i;
+  }
+  EXPECT_EQ(ground.child(ground.childCount()), nullptr);
+}
+
+TEST_F(AccessibilityTest, ALabelIsFoundWhereItIsSeen) {
+  QAccessibleInterface &tag = Description(bench.Tag);
+  EXPECT_EQ(tag.rect().size(), QSize(60, 16));
+  const QPoint middle = tag.rect().center();
+  EXPECT_EQ(OfGround().childAt(middle.x(), middle.y()), &tag);
+  EXPECT_FALSE(tag.state().invisible);
+  bench.Tag.SetVisible(false);
+  EXPECT_TRUE(tag.state().invisible);
+  EXPECT_EQ(OfGround().childAt(middle.x(), middle.y()), nullptr);
+  const QPoint onFrame = Description(bench.Drive).rect().center();
+  EXPECT_EQ(OfGround().childAt(onFrame.x(), onFrame.y()), &Description(bench.Drive));
+}
+
+TEST_F(AccessibilityTest, WhatIsDrawnIsDescribedAsLongAsItsWindowIsThere) {
+  const QAccessible::Id id = QAccessible::uniqueId(&Description(bench.Tag));
+  ASSERT_NE(QAccessible::accessibleInterface(id), nullptr);
+  bench.Unload();
+  LetPass(10);
+  EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
+}
+
 TEST_F(AccessibilityTest, RolesTellWhatAControlIs) {
   EXPECT_EQ(Description(bench.Tag).role(), QAccessible::StaticText);
+  EXPECT_EQ(Description(bench.Group).role(), QAccessible::Grouping);
   EXPECT_EQ(Description(bench.Box).role(), QAccessible::EditableText);
   EXPECT_EQ(Description(bench.Combo).role(), QAccessible::ComboBox);
   EXPECT_EQ(Description(bench.Check).role(), QAccessible::CheckBox);

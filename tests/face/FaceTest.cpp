@@ -4,6 +4,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+#include <utility>
+
 namespace Tessoro::Tests {
 
 FaceTest::FaceTest(bool keyPreview) : bench(app, keyPreview) {
@@ -40,6 +43,18 @@ std::vector<std::string> FaceTest::Heard() {
   std::erase_if(
       heard, [](const std::string &event) { return event.find("MouseMove") != std::string::npos; });
   return heard;
+}
+
+Ground &FaceTest::GroundOf(const Form &form) const {
+  const QObjectList parts = WindowOf(form).children();
+  const auto found = std::ranges::find_if(
+      parts, [](QObject *part) { return dynamic_cast<Ground *>(part) != nullptr; });
+  return dynamic_cast<Ground &>(**found);
+}
+
+const DrawnControl *FaceTest::DrawnFor(const Control &control) const {
+  const DrawnControl *drawn = GroundOf(control.Owner()).DrawnFor(control);
+  return drawn != nullptr && drawn->StandsForItself() ? drawn : nullptr;
 }
 
 void FaceTest::Focus(const Control &control) const {

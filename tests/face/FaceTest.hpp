@@ -2,6 +2,7 @@
 #pragma once
 
 #include "face/qt/FormWindow.hpp"
+#include "face/qt/Ground.hpp"
 #include "face/qt/QtClock.hpp"
 #include "face/qt/QtScreen.hpp"
 #include "shell/Application.hpp"
@@ -35,6 +36,10 @@ protected:
   template <typename Widget = QWidget> Widget &WidgetOf(const Control &control) const {
     return dynamic_cast<Widget &>(*WindowOf(control.Owner()).WidgetOf(control));
   }
+  // The ground that all controls of the form lie on.
+  Ground &GroundOf(const Form &form) const;
+  // What stands on the ground without being a widget of its own; null for any other control.
+  const DrawnControl *DrawnFor(const Control &control) const;
   // Gives the control the focus as the user would.
   void Focus(const Control &control) const;
 

@@ -327,48 +327,7 @@ TEST_F(FormWindowTest, AHiddenControlIsHidden) {
 
 TEST_F(FormWindowTest, ALabelFollowsItsWidth) {
   bench.Tag.SetWidth(1480);
-  EXPECT_EQ(WidgetOf(bench.Tag).width(), 99);
-}
-
-TEST_F(FormWindowTest, ALineIsDrawnWhereItsEndsAreAndGoneFromWhereTheyWere) {
-  const auto isInk = [this](QPoint place) {
-    const QColor color = Ground()->grab().toImage().pixelColor(place);
-    return color.blue() > 100 && color.red() < 100;
-  };
-  bench.Slope.SetX1(3000);
-  bench.Slope.SetX2(4200);
-  bench.Slope.SetY1(3600);
-  bench.Slope.SetY2(3600);
-  EXPECT_TRUE(isInk({240, 241}) || isInk({240, 239}) || isInk({240, 240}));
-  bench.Slope.SetY1(3750);
-  bench.Slope.SetY2(3750);
-  EXPECT_FALSE(isInk({240, 240}));
-  EXPECT_TRUE(isInk({240, 250}) || isInk({240, 249}));
-}
-
-// Notes which part of a widget is painted.
-class PaintWatch : public QObject {
-public:
-  explicit PaintWatch(QWidget &widget) { widget.installEventFilter(this); }
-
-  bool eventFilter(QObject * /*watched*/, QEvent *event) override {
-    if (event->type() == QEvent::Paint)
-      painted += static_cast<QPaintEvent *>(event)->region();
-    return false;
-  }
-
-  QRegion painted;
-};
-
-TEST_F(FormWindowTest, ALineThatMovesPaintsNoMoreThanItsOldPlaceAndItsNewOne) {
-  LetPass(50);
-  PaintWatch watch(*Ground());
-  bench.Slope.SetY1(3600);
-  bench.Slope.SetY2(3600);
-  LetPass(50);
-  EXPECT_TRUE(watch.painted.contains(QPoint(230, 140))) << "where it was";
-  EXPECT_TRUE(watch.painted.contains(QPoint(230, 240))) << "where it is";
-  EXPECT_FALSE(watch.painted.contains(QPoint(10, 270)));
+  EXPECT_EQ(DrawnFor(bench.Tag)->Area().width(), 99);
 }
 
 } // namespace

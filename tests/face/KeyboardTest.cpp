@@ -53,8 +53,9 @@ protected:
     }
   }
 
-  static bool CanHaveTab(const QWidget &widget) {
-    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+  bool CanHaveTab(const Control &control) const {
+    const QWidget *widget = WindowOf(control.Owner()).WidgetOf(control);
+    return widget != nullptr && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0;
   }
 
   // The boxes that a knob changes.
@@ -141,7 +142,7 @@ TEST_F(KeyboardTest, WhatTheMouseWorksIsInReachOfTheKeyboard) {
       if (control->ReachOfUser() != Reach::Done || !ReactsToMouse(*control))
         continue;
       ++found;
-      if (CanHaveTab(WidgetOf(*control)))
+      if (CanHaveTab(*control))
         continue;
       auto *image = dynamic_cast<Image *>(control);
       if (image != nullptr && !image->AccessKey().empty())
@@ -149,7 +150,7 @@ TEST_F(KeyboardTest, WhatTheMouseWorksIsInReachOfTheKeyboard) {
       if (image != nullptr && image->onMouseDown) {
         const std::vector<const TextBox *> boxes = ChangedByDrag(*image);
         EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(),
-                                [&](const TextBox *box) { return CanHaveTab(WidgetOf(*box)); }))
+                                [&](const TextBox *box) { return CanHaveTab(*box); }))
             << form->Name() << "." << control->Name();
         continue;
       }

@@ -1,5 +1,5 @@
 // How the forms of the editor look, as far as a program can tell.
-#include "face/qt/LabelView.hpp"
+#include "face/qt/DrawnLabel.hpp"
 #include "tests/face/FaceTest.hpp"
 
 #include <QApplication>
@@ -33,14 +33,19 @@ protected:
 
   struct Shown {
     const Control *control;
-    QWidget *widget;
+    QWidget *widget; // null where the ground draws it
+    QRect area;
   };
   std::vector<Shown> ShownOn(const Form &form) const {
     std::vector<Shown> shown;
-    for (const Control *control : form.Controls())
+    for (const Control *control : form.Controls()) {
+      if (!control->Visible())
+        continue;
       if (QWidget *widget = WindowOf(form).WidgetOf(*control))
-        if (widget->isVisible())
-          shown.push_back({control, widget});
+        shown.push_back({control, widget, widget->geometry()});
+      else if (const DrawnControl *drawn = DrawnFor(*control))
+        shown.push_back({control, nullptr, drawn->Area()});
+    }
     return shown;
   }
 
@@ -68,8 +73,7 @@ int RoomOfField(const QLineEdit &field) {
 TEST_F(LayoutTest, EveryControlLiesOnItsForm) {
   ForEachForm([this](const Form &form) {
     for (const Shown &each : ShownOn(form)) {
-      EXPECT_TRUE(each.widget->parentWidget()->rect().contains(each.widget->geometry()))
-          << NameOf(*each.control);
+      EXPECT_TRUE(GroundOf(form).rect().contains(each.area)) << NameOf(*each.control);
     }
   });
 }
@@ -80,7 +84,7 @@ TEST_F(LayoutTest, NothingLiesOnAnythingElse) {
     for (auto one = shown.begin(); one != shown.end(); ++one)
       for (auto other = one + 1; other != shown.end(); ++other) {
         const bool areOnFrame = one->control->Type() == ControlType::Frame;
-        EXPECT_TRUE(areOnFrame || !one->widget->geometry().intersects(other->widget->geometry()))
+        EXPECT_TRUE(areOnFrame || !one->area.intersects(other->area))
             << NameOf(*one->control) << " and " << NameOf(*other->control);
       }
   });
@@ -117,12 +121,14 @@ TEST_F(LayoutTest, PanelsStandApartAndHoldTheirControlsWhole) {
 TEST_F(LayoutTest, NoCaptionIsCut) {
   ForEachForm([this](const Form &form) {
     for (const Shown &each : ShownOn(form)) {
-      if (const auto *label = dynamic_cast<const LabelView *>(each.widget);
-          label != nullptr && label->height() < 2 * label->fontMetrics().height()) {
-        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->Text()) * NarrowestStretch,
-                  label->width())
-            << NameOf(*each.control);
-        EXPECT_LE(label->fontMetrics().ascent(), label->height()) << NameOf(*each.control);
+      if (const auto *label = dynamic_cast<const Label *>(each.control)) {
+        const QFontMetrics letters(FontOfLabel(label->Style(), {.zoom = WindowOf(form).Zoom()}));
+        const auto &drawn = dynamic_cast<const DrawnLabel &>(*DrawnFor(*label));
+        if (each.area.height() < 2 * letters.height()) {
+          EXPECT_LE(letters.horizontalAdvance(drawn.Text()) * NarrowestStretch, each.area.width())
+              << NameOf(*each.control);
+          EXPECT_LE(letters.ascent(), each.area.height()) << NameOf(*each.control);
+        }
       }
       if (const auto *button = dynamic_cast<const QPushButton *>(each.widget)) {
         EXPECT_LE(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 6,
@@ -163,13 +169,12 @@ TEST_F(LayoutTest, ANumberOfThreeCharactersFitsEveryBox) {
 // Text in points grows with the system's letters while the places stay.
 TEST_F(LayoutTest, TheLettersOfTheSystemChangeNothing) {
   const QFont before = QApplication::font();
-  const QFont ofLabel = WidgetOf(app.F_Tessoro.LabelF1_cutoff).font();
+  const QImage looks = WindowOf(app.F_Tessoro).grab().toImage();
   QFont large = before;
   large.setPointSize(24);
   QApplication::setFont(large);
   LetPass(1);
-  EXPECT_EQ(WidgetOf(app.F_Tessoro.LabelF1_cutoff).font().pixelSize(), ofLabel.pixelSize());
-  EXPECT_EQ(WidgetOf(app.F_Tessoro.TextF1_cutoff).font().pixelSize(), ofLabel.pixelSize());
+  EXPECT_EQ(WindowOf(app.F_Tessoro).grab().toImage(), looks);
   QApplication::setFont(before);
 }
 

@@ -180,11 +180,5 @@ TEST_F(PointerViewsTest, APictureFillsItsPlaceAtEachZoomAndOnEachScreen) {
   }
 }
 
-TEST_F(PointerViewsTest, ALabelAndAFrameAreClickedAndTheGroundBelowIsNot) {
-  QTest::mouseClick(&WidgetOf(bench.Tag), Qt::LeftButton);
-  QTest::mouseClick(&WidgetOf(bench.Group), Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
-  EXPECT_THAT(Heard(), ElementsAre("Tag Click", "Group Click"));
-}
-
 } // namespace
 } // namespace Tessoro::Tests

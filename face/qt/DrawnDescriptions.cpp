@@ -1,0 +1,154 @@
+#include "face/qt/DrawnDescriptions.hpp"
+
+#include "face/qt/DrawnLabel.hpp"
+#include "face/qt/FormWindow.hpp"
+#include "face/qt/Ground.hpp"
+#include "face/qt/Text.hpp"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPointer>
+
+#include <unordered_map>
+
+namespace Tessoro {
+
+namespace {
+
+class DrawnDescription : public QAccessibleInterface {
+public:
+  DrawnDescription(Ground &under, const DrawnControl &described)
+      : ground(&under), drawn(described) {}
+
+  bool isValid() const override { return ground != nullptr; }
+  QObject *object() const override { return nullptr; }
+  QWindow *window() const override { return ground->window()->windowHandle(); }
+
+  QAccessibleInterface *parent() const override {
+    return QAccessible::queryAccessibleInterface(ground);
+  }
+  int childCount() const override { return 0; }
+  QAccessibleInterface *child(int /*index*/) const override { return nullptr; }
+  QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+  int indexOfChild(const QAccessibleInterface * /*child*/) const override { return -1; }
+
+  QAccessible::Role role() const override {
+    return Label() == nullptr ? QAccessible::Grouping : QAccessible::StaticText;
+  }
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Description)
+      return FromModel(drawn.Shown().ToolTipText());
+    return kind == QAccessible::Name ? Name() : QString();
+  }
+  void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override {}
+  QRect rect() const override {
+    return {ground->mapToGlobal(drawn.Area().topLeft()), drawn.Area().size()};
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invisible = !ground->isVisible() || !drawn.Shown().Visible();
+    state.disabled = !drawn.Shown().Enabled();
+    return state;
+  }
+
+private:
+  const DrawnLabel *Label() const { return dynamic_cast<const DrawnLabel *>(&drawn); }
+
+  // A label is called what it shows, unless it shows a bare value and says what that is.
+  QString Name() const {
+    if (!drawn.Shown().Says().empty())
+      return FromModel(drawn.Shown().Says());
+    return Label() == nullptr ? ground->window()->windowTitle() : Label()->Text();
+  }
+
+  const QPointer<Ground> ground;
+  const DrawnControl &drawn;
+};
+
+// Has the drawn controls as children, among the widgets and in the order of declaration.
+class GroundDescription : public QAccessibleWidget {
+public:
+  explicit GroundDescription(Ground &described) : QAccessibleWidget(&described), ground(described) {
+    for (Control *control : ground.Shown().Controls())
+      if (const DrawnControl *drawn = ground.DrawnFor(*control);
+          drawn != nullptr && drawn->StandsForItself())
+        ids[drawn] = QAccessible::registerAccessibleInterface(new DrawnDescription(ground, *drawn));
+  }
+
+  QAccessibleInterface *Of(const DrawnControl &drawn) const {
+    const auto found = ids.find(&drawn);
+    return found == ids.end() ? nullptr : QAccessible::accessibleInterface(found->second);
+  }
+
+  int childCount() const override { return static_cast<int>(Children().size()); }
+  QAccessibleInterface *child(int index) const override { return Children().value(index); }
+  int indexOfChild(const QAccessibleInterface *child) const override {
+    return static_cast<int>(Children().indexOf(child));
+  }
+  QAccessibleInterface *childAt(int x, int y) const override {
+    const QPoint place = ground.mapFromGlobal(QPoint(x, y));
+    if (QWidget *widget = ground.childAt(place))
+      return QAccessible::queryAccessibleInterface(widget);
+    const DrawnControl *drawn = ground.DrawnAt(place);
+    return drawn == nullptr ? nullptr : Of(*drawn);
+  }
+
+protected:
+  ~GroundDescription() override {
+    for (const auto &[drawn, id] : ids)
+      QAccessible::deleteAccessibleInterface(id);
+  }
+
+private:
+  QList<QAccessibleInterface *> Children() const {
+    QList<QAccessibleInterface *> children;
+    for (const Control *control : ground.Shown().Controls())
+      if (QAccessibleInterface *child = ChildFor(*control))
+        children.append(child);
+    return children;
+  }
+
+  QAccessibleInterface *ChildFor(const Control &control) const {
+    if (const DrawnControl *drawn = ground.DrawnFor(control))
+      return Of(*drawn);
+    const auto &window = dynamic_cast<const FormWindow &>(*ground.parentWidget());
+    QWidget *widget = window.WidgetOf(control);
+    return widget == nullptr ? nullptr : QAccessible::queryAccessibleInterface(widget);
+  }
+
+  Ground &ground;
+  std::unordered_map<const DrawnControl *, QAccessible::Id> ids;
+};
+
+} // namespace
+
+QAccessibleInterface *DescribeGround(Ground &ground) { return new GroundDescription(ground); }
+
+QAccessibleInterface *DescriptionOf(Ground &ground, const DrawnControl &drawn) {
+  const auto *description =
+      dynamic_cast<GroundDescription *>(QAccessible::queryAccessibleInterface(&ground));
+  return description == nullptr ? nullptr : description->Of(drawn);
+}
+
+std::optional<QAccessible::Event> NewsOf(const Control &control, Property property) {
+  switch (property) {
+  case Property::Caption:
+    return QAccessible::NameChanged;
+  case Property::Visible:
+    return control.Visible() ? QAccessible::ObjectShow : QAccessible::ObjectHide;
+  default:
+    return std::nullopt;
+  }
+}
+
+void TellScreenReaders(Ground &ground, const DrawnControl &drawn, Property property) {
+  const auto news = NewsOf(drawn.Shown(), property);
+  if (!QAccessible::isActive() || !news)
+    return;
+  if (QAccessibleInterface *description = DescriptionOf(ground, drawn)) {
+    QAccessibleEvent event(description, *news);
+    QAccessible::updateAccessibility(&event);
+  }
+}
+
+} // namespace Tessoro
