@@ -3,7 +3,8 @@
 
 packagesToBuild=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libfontconfig-dev librtmidi-dev libjack-jackd2-dev)
+  qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libfontconfig-dev librtmidi-dev libasound2-dev
+  libjack-jackd2-dev)
 packagesToRun=(fonts-dejavu-core)
 packagesToTest=(libgtest-dev libgmock-dev libxcb1-dev jackd2 xvfb xdotool openbox
   xclip x11-xkb-utils dbus at-spi2-core ibus ibus-hangul python3)

@@ -1,3 +1,4 @@
+#include "service/rtmidi/JackLibrary.hpp"
 #include "service/rtmidi/JackPresence.hpp"
 #include "service/rtmidi/PortDirectory.hpp"
 
@@ -5,6 +6,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdlib>
 #include <mutex>
 #include <thread>
 
@@ -30,11 +32,7 @@ void Ignore(const char * /*message*/) {}
 // so nobody sees it in a patch bay.
 class JackDirectory final : public PortDirectory {
 public:
-  JackDirectory() {
-    jack_set_error_function(Ignore);
-    jack_set_info_function(Ignore);
-  }
-
+  JackDirectory() = default;
   ~JackDirectory() override { Leave(); }
   JackDirectory(const JackDirectory &) = delete;
   JackDirectory &operator=(const JackDirectory &) = delete;
@@ -98,7 +96,14 @@ private:
   }
 
   void Join() {
-    if (!MayHaveJackServer(jack_get_version_string(), UsualJackServer(), JackSocketFolder)) {
+    const auto environment = [](const char *variable) { return std::getenv(variable); };
+    if (!MayNeedJackLibrary(environment, JackSocketFolder, PipeWireSystemFolder) ||
+        !HasJackLibrary()) {
+      return;
+    }
+    jack_set_error_function(Ignore);
+    jack_set_info_function(Ignore);
+    if (!MayHaveJackServer(JackLibraryVersion(), UsualJackServer(environment), JackSocketFolder)) {
       return;
     }
     client = jack_client_open(WatchClientName, JackNoStartServer, nullptr);

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
 
 namespace Tessoro {
@@ -22,6 +23,76 @@ void MakeSocket(const std::filesystem::path &path) {
   const int server = socket(AF_UNIX, SOCK_STREAM, 0);
   ASSERT_EQ(bind(server, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
   close(server);
+}
+
+// A machine's places for signs, all of them empty.
+class ServiceJackLibraryNeed : public testing::Test {
+protected:
+  ServiceJackLibraryNeed() {
+    for (const char *name : {"shm", "system", "runtime", "home"})
+      std::filesystem::create_directory(name);
+  }
+
+  bool Answer() const {
+    const auto environment = [this](const char *variable) -> const char * {
+      const auto found = variables.find(variable);
+      return found == variables.end() ? nullptr : found->second.c_str();
+    };
+    return MayNeedJackLibrary(environment, sockets, "system");
+  }
+
+  FreshDirectory folder;
+  std::string sockets = "shm";
+  std::map<std::string, std::string> variables{{"XDG_RUNTIME_DIR", "runtime"}, {"HOME", "home"}};
+};
+
+TEST_F(ServiceJackLibraryNeed, IsNoneWhereNothingStands) { EXPECT_FALSE(Answer()); }
+
+TEST_F(ServiceJackLibraryNeed, IsNoneForWhatServersLeaveBehind) {
+  std::filesystem::create_directory("shm/jack_db-1000");
+  std::ofstream("shm/jack-shm-registry") << "old";
+  std::ofstream("shm/jack_sem.1000_default_system") << "old";
+  std::ofstream("shm/jack_default_1000_0") << "no socket";
+  EXPECT_FALSE(Answer());
+}
+
+TEST_F(ServiceJackLibraryNeed, ComesWithTheSocketOfTheServerThatIsAskedFor) {
+  MakeSocket("shm/jack_studio_1000_0");
+  EXPECT_FALSE(Answer());
+  variables["JACK_DEFAULT_SERVER"] = "studio";
+  EXPECT_TRUE(Answer());
+}
+
+TEST_F(ServiceJackLibraryNeed, ComesWithTheFolderOfJack1) {
+  for (const char *name : {"shm/jack-1000", "shm/jack"}) {
+    std::filesystem::create_directory(name);
+    EXPECT_TRUE(Answer()) << name;
+    std::filesystem::remove(name);
+  }
+}
+
+TEST_F(ServiceJackLibraryNeed, ComesWhereServersCantBeLookedFor) {
+  sockets = "missing";
+  EXPECT_TRUE(Answer());
+}
+
+TEST_F(ServiceJackLibraryNeed, ComesWithASocketOfPipeWire) {
+  variables["PIPEWIRE_RUNTIME_DIR"] = folder.Path() / "own";
+  std::filesystem::create_directory("own");
+  for (const char *name : {"own", "runtime", "home", "system"}) {
+    const std::filesystem::path socket = std::filesystem::path(name) / "pipewire-0";
+    MakeSocket(socket);
+    EXPECT_TRUE(Answer()) << name;
+    std::filesystem::remove(socket);
+  }
+  EXPECT_FALSE(Answer());
+}
+
+TEST_F(ServiceJackLibraryNeed, ComesWhereAPipeWireIsAskedForByName) {
+  variables["PIPEWIRE_REMOTE"] = "";
+  EXPECT_FALSE(Answer());
+  variables["PIPEWIRE_REMOTE"] = "studio";
+  EXPECT_TRUE(Answer());
 }
 
 TEST(ServiceJackPresence, AServersSocketIsASign) {
