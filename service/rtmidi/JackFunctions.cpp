@@ -15,22 +15,40 @@
 #include <type_traits>
 
 // All that RtMidi calls of JACK, and we ourselves: how many arguments it takes, and its name.
-#define ALL_JACK_FUNCTIONS(row)                                                                    \
-  row(3AndMore, jack_client_open) row(1, jack_client_close) row(1, jack_activate)                  \
-      row(3, jack_set_process_callback) row(3, jack_on_shutdown) row(1, jack_set_error_function)   \
-          row(1, jack_set_info_function) row(4, jack_get_ports) row(1, jack_free)                  \
-              row(5, jack_port_register) row(2, jack_port_unregister) row(3, jack_port_rename)     \
-                  row(1, jack_port_name) row(0, jack_port_name_size) row(2, jack_port_get_buffer)  \
-                      row(3, jack_connect) row(0, jack_get_time) row(1, jack_last_frame_time)      \
-                          row(1, jack_get_buffer_size) row(1, jack_midi_clear_buffer)              \
-                              row(3, jack_midi_event_get) row(3, jack_midi_event_reserve)          \
-                                  row(1, jack_midi_get_event_count) row(1, jack_ringbuffer_create) \
-                                      row(1, jack_ringbuffer_free) row(3, jack_ringbuffer_peek)    \
-                                          row(3, jack_ringbuffer_read)                             \
-                                              row(2, jack_ringbuffer_read_advance)                 \
-                                                  row(1, jack_ringbuffer_read_space)               \
-                                                      row(3, jack_ringbuffer_write)                \
-                                                          row(1, jack_ringbuffer_write_space)
+// clang-format off
+#define ALL_JACK_FUNCTIONS(row) \
+  row(3AndMore, jack_client_open) \
+  row(1, jack_client_close) \
+  row(1, jack_activate) \
+  row(3, jack_set_process_callback) \
+  row(3, jack_on_shutdown) \
+  row(1, jack_set_error_function) \
+  row(1, jack_set_info_function) \
+  row(4, jack_get_ports) \
+  row(1, jack_free) \
+  row(5, jack_port_register) \
+  row(2, jack_port_unregister) \
+  row(3, jack_port_rename) \
+  row(1, jack_port_name) \
+  row(0, jack_port_name_size) \
+  row(2, jack_port_get_buffer) \
+  row(3, jack_connect) \
+  row(0, jack_get_time) \
+  row(1, jack_last_frame_time) \
+  row(1, jack_get_buffer_size) \
+  row(1, jack_midi_clear_buffer) \
+  row(3, jack_midi_event_get) \
+  row(3, jack_midi_event_reserve) \
+  row(1, jack_midi_get_event_count) \
+  row(1, jack_ringbuffer_create) \
+  row(1, jack_ringbuffer_free) \
+  row(3, jack_ringbuffer_peek) \
+  row(3, jack_ringbuffer_read) \
+  row(2, jack_ringbuffer_read_advance) \
+  row(1, jack_ringbuffer_read_space) \
+  row(3, jack_ringbuffer_write) \
+  row(1, jack_ringbuffer_write_space)
+// clang-format on
 
 namespace Tessoro {
 namespace {
