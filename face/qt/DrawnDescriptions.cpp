@@ -68,16 +68,18 @@ private:
 // Has the drawn controls as children, among the widgets and in the order of declaration.
 class GroundDescription : public QAccessibleWidget {
 public:
-  explicit GroundDescription(Ground &described) : QAccessibleWidget(&described), ground(described) {
-    for (Control *control : ground.Shown().Controls())
-      if (const DrawnControl *drawn = ground.DrawnFor(*control);
-          drawn != nullptr && drawn->StandsForItself())
-        ids[drawn] = QAccessible::registerAccessibleInterface(new DrawnDescription(ground, *drawn));
-  }
+  explicit GroundDescription(Ground &described)
+      : QAccessibleWidget(&described), ground(described) {}
 
+  // Made when it is first asked for, which without a reader is never. Null for what doesn't stand
+  // for itself.
   QAccessibleInterface *Of(const DrawnControl &drawn) const {
-    const auto found = ids.find(&drawn);
-    return found == ids.end() ? nullptr : QAccessible::accessibleInterface(found->second);
+    if (!drawn.StandsForItself())
+      return nullptr;
+    const auto [place, isNew] = ids.try_emplace(&drawn);
+    if (isNew)
+      place->second = QAccessible::registerAccessibleInterface(new DrawnDescription(ground, drawn));
+    return QAccessible::accessibleInterface(place->second);
   }
 
   int childCount() const override { return static_cast<int>(Children().size()); }
@@ -117,7 +119,7 @@ private:
   }
 
   Ground &ground;
-  std::unordered_map<const DrawnControl *, QAccessible::Id> ids;
+  mutable std::unordered_map<const DrawnControl *, QAccessible::Id> ids;
 };
 
 } // namespace

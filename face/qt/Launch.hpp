@@ -16,6 +16,12 @@ namespace Tessoro {
 // thread.
 void ChooseEventLoop();
 
+// The toolkit opens what speaks to an X server while the fonts are read beside it, and each page
+// that the loader fills in must then be told to the other thread's processor: a millisecond in all.
+// Opened before there is a thread, it is there when the toolkit asks. False where the display will
+// be another one, or the toolkit has it under another name: nothing is done then, and nothing lost.
+bool OpenDisplayLibrary();
+
 // The QApplication of the process, with what is done beside its making and that of the first
 // window.
 class Launch {
@@ -24,10 +30,10 @@ public:
   Launch(int &argc, char *argv[]);
 
 private:
-  struct EventLoop {
-    EventLoop() { ChooseEventLoop(); }
+  struct BeforeThreads {
+    BeforeThreads();
   };
-  EventLoop eventLoop;
+  BeforeThreads beforeThreads;
   FontReading fonts;
   QApplication application;
   std::optional<BusConnecting> bus;
