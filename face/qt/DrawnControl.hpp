@@ -17,8 +17,6 @@ namespace Tessoro {
 
 class Form;
 
-QFont FontOfLabel(LabelStyle style, const Scale &scale);
-
 // What a ground lends to all that it draws.
 struct GroundLook {
   explicit GroundLook(const Scale &newScale = {});
@@ -28,7 +26,7 @@ struct GroundLook {
   QPalette palette;
 
 private:
-  std::array<QFont, 5> fonts; // by style
+  std::array<QFont, static_cast<std::size_t>(LabelStyle::Title) + 1> fonts; // by style
 };
 
 // A form has a hundred of them, and a widget for each would be most of what its window costs.

@@ -42,6 +42,8 @@ public:
   }
   void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override {}
   QRect rect() const override {
+    if (state().invisible)
+      return {};
     return {ground->mapToGlobal(drawn.Area().topLeft()), drawn.Area().size()};
   }
   QAccessible::State state() const override {
@@ -89,8 +91,11 @@ public:
   }
   QAccessibleInterface *childAt(int x, int y) const override {
     const QPoint place = ground.mapFromGlobal(QPoint(x, y));
-    if (QWidget *widget = ground.childAt(place))
+    if (QWidget *widget = ground.childAt(place)) {
+      while (widget->parentWidget() != &ground) // a list has its items in a widget of their own
+        widget = widget->parentWidget();
       return QAccessible::queryAccessibleInterface(widget);
+    }
     const DrawnControl *drawn = ground.DrawnAt(place);
     return drawn == nullptr ? nullptr : Of(*drawn);
   }
@@ -113,8 +118,8 @@ private:
   QAccessibleInterface *ChildFor(const Control &control) const {
     if (const DrawnControl *drawn = ground.DrawnFor(control))
       return Of(*drawn);
-    const auto &window = dynamic_cast<const FormWindow &>(*ground.parentWidget());
-    QWidget *widget = window.WidgetOf(control);
+    const auto *window = dynamic_cast<const FormWindow *>(ground.parentWidget());
+    QWidget *widget = window == nullptr ? nullptr : window->WidgetOf(control);
     return widget == nullptr ? nullptr : QAccessible::queryAccessibleInterface(widget);
   }
 
@@ -132,25 +137,34 @@ QAccessibleInterface *DescriptionOf(Ground &ground, const DrawnControl &drawn) {
   return description == nullptr ? nullptr : description->Of(drawn);
 }
 
-std::optional<QAccessible::Event> NewsOf(const Control &control, Property property) {
+std::unique_ptr<QAccessibleEvent> NewsOf(Ground &ground, const DrawnControl &drawn,
+                                         Property property) {
+  QAccessibleInterface *description = DescriptionOf(ground, drawn);
+  if (description == nullptr)
+    return nullptr;
+  const auto news = [description](QAccessible::Event kind) {
+    return std::make_unique<QAccessibleEvent>(description, kind);
+  };
   switch (property) {
   case Property::Caption:
-    return QAccessible::NameChanged;
+    return news(QAccessible::NameChanged);
   case Property::Visible:
-    return control.Visible() ? QAccessible::ObjectShow : QAccessible::ObjectHide;
+    return news(drawn.Shown().Visible() ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+  case Property::Enabled: {
+    QAccessible::State changed;
+    changed.disabled = true;
+    return std::make_unique<QAccessibleStateChangeEvent>(description, changed);
+  }
   default:
-    return std::nullopt;
+    return nullptr;
   }
 }
 
 void TellScreenReaders(Ground &ground, const DrawnControl &drawn, Property property) {
-  const auto news = NewsOf(drawn.Shown(), property);
-  if (!QAccessible::isActive() || !news)
+  if (!QAccessible::isActive())
     return;
-  if (QAccessibleInterface *description = DescriptionOf(ground, drawn)) {
-    QAccessibleEvent event(description, *news);
-    QAccessible::updateAccessibility(&event);
-  }
+  if (const auto news = NewsOf(ground, drawn, property))
+    QAccessible::updateAccessibility(news.get());
 }
 
 } // namespace Tessoro

@@ -5,11 +5,10 @@
 
 #include <QAccessible>
 
-#include <optional>
+#include <memory>
 
 namespace Tessoro {
 
-class Control;
 class DrawnControl;
 class Ground;
 
@@ -17,8 +16,9 @@ class Ground;
 QAccessibleInterface *DescribeGround(Ground &ground);
 QAccessibleInterface *DescriptionOf(Ground &ground, const DrawnControl &drawn);
 
-// What a change of the property is to a reader; nothing where it is none.
-std::optional<QAccessible::Event> NewsOf(const Control &control, Property property);
+// What a reader is to be told of a change of the property; null where that is nothing.
+std::unique_ptr<QAccessibleEvent> NewsOf(Ground &ground, const DrawnControl &drawn,
+                                         Property property);
 // Where anybody listens.
 void TellScreenReaders(Ground &ground, const DrawnControl &drawn, Property property);
 

@@ -43,6 +43,11 @@ double PartBefore(LabelAlign align) {
   }
 }
 
+// Neither a line break, nor a tab, which would be as wide as eight letters.
+bool IsOneLine(const QString &text) {
+  return std::none_of(text.begin(), text.end(), [](QChar letter) { return letter < u' '; });
+}
+
 } // namespace
 
 QFont FontOfLabel(LabelStyle style, const Scale &scale) {
@@ -77,7 +82,7 @@ void DrawnLabel::Draw(QPainter &painter, const GroundLook &look) const {
   painter.setFont(look.FontOf(label.Style()));
   painter.setPen(Ink(look.palette));
   const bool hasRoomForLines = area.height() >= 2 * painter.fontMetrics().height();
-  if (hasRoomForLines || text.contains(u'\n'))
+  if (hasRoomForLines)
     painter.drawText(area, AlignmentOf(label.Align()) | Qt::TextWordWrap, text);
   else
     DrawLine(painter, area, look.scale);
@@ -108,17 +113,18 @@ void DrawnLabel::DrawLine(QPainter &painter, const QRect &area, const Scale &sca
     width = std::max(1.0, letters.horizontalAdvance(line));
   }
   const double stretch = std::clamp(room / std::round(width), NarrowestStretch, 1.0);
-  const QPointF begin((area.width() / stretch - width) * PartBefore(label.Align()),
-                      (area.height() - letters.height()) / 2 + letters.ascent());
-  if (stretch == 1 && letters.height() <= area.height()) {
+  if (stretch == 1 && letters.height() <= area.height() && IsOneLine(line)) {
+    const QPointF begin((area.width() - width) * PartBefore(label.Align()),
+                        (area.height() - letters.height()) / 2 + letters.ascent());
     painter.drawText(area.topLeft() + begin, line);
-    return; // as nearly always
+    return; // as nearly always, and without what costs time
   }
   painter.save();
   painter.setClipRect(area, Qt::IntersectClip);
   painter.translate(area.topLeft());
   painter.scale(stretch, 1);
-  painter.drawText(begin, line);
+  painter.drawText(QRectF(0, 0, area.width() / stretch, area.height()),
+                   AlignmentOf(label.Align()) | Qt::TextDontClip, line);
   painter.restore();
 }
 

@@ -7,6 +7,8 @@
 
 namespace Tessoro {
 
+QFont FontOfLabel(LabelStyle style, const Scale &scale);
+
 class DrawnLabel : public DrawnControl {
 public:
   explicit DrawnLabel(Label &shown) : DrawnControl(shown), label(shown) {}

@@ -39,6 +39,9 @@ FormMenu::FormMenu(Form &form, const Gate &entrance, QWidget *parent)
   }
 }
 
+// The focus may leave it as it goes.
+FormMenu::~FormMenu() { disconnect(qApp, nullptr, this, nullptr); }
+
 void FormMenu::Make(Menu &entry, bool hasEntries) {
   const auto above = actions.find(entry.Parent());
   QMenu *list = above == actions.end() ? nullptr : above->second->menu();

@@ -18,6 +18,7 @@ class Form;
 class FormMenu : public QMenuBar {
 public:
   FormMenu(Form &form, const Gate &entrance, QWidget *parent);
+  ~FormMenu() override;
 
   static bool IsNeededBy(const Form &form);
 

@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tessoro {
 
@@ -61,8 +62,10 @@ bool Ground::event(QEvent *event) {
 
 bool Ground::ShowToolTip(const QHelpEvent &event) {
   const DrawnControl *below = DrawnAt(event.pos());
-  if (below == nullptr || below->Shown().ToolTipText().empty())
+  if (below == nullptr || below->Shown().ToolTipText().empty()) {
+    QToolTip::hideText(); // of a label that the pointer has left for a widget
     return false;
+  }
   QToolTip::showText(event.globalPos(), FromModel(below->Shown().ToolTipText()), this,
                      below->Area());
   return true;
@@ -80,13 +83,17 @@ void Ground::mousePressEvent(QMouseEvent *event) {
     pressed = ClickedAt(event->pos());
 }
 
+// A button that is pressed and left hands its release down here, where nothing was pressed.
 void Ground::mouseReleaseEvent(QMouseEvent *event) {
-  if (event->button() != Qt::LeftButton || !rect().contains(event->pos()))
+  if (event->button() != Qt::LeftButton)
     return;
-  if (pressed == nullptr)
+  DrawnControl *const clicked = std::exchange(pressed, nullptr);
+  if (!rect().contains(event->pos()))
+    return;
+  if (clicked == nullptr)
     gate.Pass([this] { form.UserClick(); });
-  else if (pressed == ClickedAt(event->pos()))
-    gate.Pass([this] { pressed->Click(); });
+  else if (clicked == ClickedAt(event->pos()))
+    gate.Pass([clicked] { clicked->Click(); });
 }
 
 void Ground::paintEvent(QPaintEvent *event) {

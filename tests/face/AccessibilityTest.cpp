@@ -51,12 +51,25 @@ TEST_F(AccessibilityTest, ALabelIsCalledWhatItShowsNow) {
   EXPECT_EQ(NameOf(bench.Tag), "other words");
 }
 
-TEST_F(AccessibilityTest, AReaderIsToldWhatALabelIsCalledNowAndThatItHides) {
-  EXPECT_EQ(NewsOf(bench.Tag, Property::Caption), QAccessible::NameChanged);
-  EXPECT_EQ(NewsOf(bench.Tag, Property::Visible), QAccessible::ObjectShow);
+TEST_F(AccessibilityTest, WhatChangesOfALabelIsNewsForAReader) {
+  const auto news = [this](Property property) {
+    return NewsOf(GroundOf(bench), *DrawnFor(bench.Tag), property);
+  };
+  EXPECT_EQ(news(Property::Caption)->type(), QAccessible::NameChanged);
+  EXPECT_EQ(news(Property::Caption)->accessibleInterface(), &Description(bench.Tag));
+  EXPECT_EQ(news(Property::Visible)->type(), QAccessible::ObjectShow);
   bench.Tag.SetVisible(false);
-  EXPECT_EQ(NewsOf(bench.Tag, Property::Visible), QAccessible::ObjectHide);
-  EXPECT_EQ(NewsOf(bench.Tag, Property::Width), std::nullopt);
+  EXPECT_EQ(news(Property::Visible)->type(), QAccessible::ObjectHide);
+  EXPECT_EQ(news(Property::Enabled)->type(), QAccessible::StateChanged);
+  EXPECT_EQ(news(Property::Width), nullptr);
+}
+
+TEST_F(AccessibilityTest, ALabelTellsItsToolTipAndWhetherItIsDisabled) {
+  EXPECT_EQ(Description(bench.Readout).text(QAccessible::Description), QStringLiteral("A folder"));
+  EXPECT_EQ(Description(bench.Tag).text(QAccessible::Description), QString());
+  EXPECT_FALSE(Description(bench.Tag).state().disabled);
+  bench.Tag.SetEnabled(false);
+  EXPECT_TRUE(Description(bench.Tag).state().disabled);
 }
 
 TEST_F(AccessibilityTest, LabelsStandAmongTheOtherControlsInTheOrderOfTheForm) {
@@ -86,8 +99,15 @@ TEST_F(AccessibilityTest, ALabelIsFoundWhereItIsSeen) {
   bench.Tag.SetVisible(false);
   EXPECT_TRUE(tag.state().invisible);
   EXPECT_EQ(OfGround().childAt(middle.x(), middle.y()), nullptr);
-  const QPoint onFrame = Description(bench.Drive).rect().center();
-  EXPECT_EQ(OfGround().childAt(onFrame.x(), onFrame.y()), &Description(bench.Drive));
+  EXPECT_TRUE(tag.rect().isEmpty());
+}
+
+TEST_F(AccessibilityTest, AWidgetIsFoundWhereItIsSeenAlsoOnAFrame) {
+  for (const Control *control : std::initializer_list<Control *>{&bench.Drive, &bench.Dir}) {
+    const QPoint middle = Description(*control).rect().center();
+    EXPECT_EQ(OfGround().childAt(middle.x(), middle.y()), &Description(*control))
+        << control->Name();
+  }
 }
 
 TEST_F(AccessibilityTest, WhatIsDrawnIsDescribedAsLongAsItsWindowIsThere) {

@@ -2,6 +2,8 @@
 #include "tests/face/FaceTest.hpp"
 
 #include <QHelpEvent>
+#include <QMessageBox>
+#include <QMouseEvent>
 #include <QTest>
 #include <QToolTip>
 
@@ -50,6 +52,28 @@ TEST_F(GroundTest, AClickBeginsAndEndsOnTheSame) {
   EXPECT_THAT(Heard(), ElementsAre("Form Click"));
 }
 
+TEST_F(GroundTest, AButtonThatIsLeftWhilePressedClicksTheGround) {
+  QTest::mouseClick(&Ground(), Qt::LeftButton, {}, MiddleOf(bench.Tag));
+  Heard();
+  QTest::mousePress(&WidgetOf(bench.Push), Qt::LeftButton);
+  const QPoint tag = Ground().mapTo(&WindowOf(bench), MiddleOf(bench.Tag));
+  QTest::mouseRelease(&WidgetOf(bench.Push), Qt::LeftButton, {},
+                      WidgetOf(bench.Push).mapFrom(&WindowOf(bench), tag));
+  EXPECT_THAT(Heard(), ElementsAre("Form Click"));
+}
+
+TEST_F(GroundTest, NothingIsClickedWhileABoxIsOpen) {
+  WithNextBox([this](QMessageBox &box) {
+    Press(MiddleOf(bench.Tag));
+    Release(MiddleOf(bench.Tag));
+    Press(BareGround);
+    Release(BareGround);
+    box.accept();
+  });
+  app.MsgBox("text", MsgBoxFlags::OkOnly, "title");
+  EXPECT_THAT(Heard(), IsEmpty());
+}
+
 TEST_F(GroundTest, OnlyTheLeftButtonClicks) {
   QTest::mouseClick(&Ground(), Qt::RightButton, {}, MiddleOf(bench.Tag));
   QTest::mouseClick(&Ground(), Qt::RightButton, {}, BareGround);
@@ -78,6 +102,29 @@ TEST_F(GroundTest, ALabelShowsItsCaptionAsItStandsNow) {
   EXPECT_LT(InkOf(bench.Tag), before);
   bench.Tag.SetVisible(false);
   EXPECT_EQ(InkOf(bench.Tag), 0);
+}
+
+TEST_F(GroundTest, BreaksAtTheEndOfACaptionMoveNothing) {
+  const QImage before = Ground().grab().toImage();
+  bench.Tag.SetCaption("label\r\n\r\n");
+  EXPECT_EQ(Ground().grab().toImage(), before);
+}
+
+TEST_F(GroundTest, ATabIsABlank) {
+  bench.Title.SetCaption("a b");
+  const QImage blank = Ground().grab().toImage();
+  bench.Title.SetCaption("a\tb");
+  EXPECT_EQ(Ground().grab().toImage(), blank);
+}
+
+TEST_F(GroundTest, ATextThatIsTooHighStaysInItsPlace) {
+  EXPECT_GT(InkOf(bench.Low), 0);
+  const QRect area = DrawnFor(bench.Low)->Area();
+  const QColor bare = Ground().palette().color(QPalette::Window);
+  for (int x = area.left(); x <= area.right(); ++x) {
+    EXPECT_EQ(ColorAt({x, area.top() - 1}), bare) << x;
+    EXPECT_EQ(ColorAt({x, area.bottom() + 1}), bare) << x;
+  }
 }
 
 TEST_F(GroundTest, ADisabledLabelIsFaded) {
@@ -146,6 +193,25 @@ TEST_F(GroundTest, AToolTipIsThatOfTheLabelBelowThePointer) {
   EXPECT_EQ(tipAt(BareGround), QString());
   bench.Readout.SetVisible(false);
   EXPECT_EQ(tipAt(MiddleOf(bench.Readout)), QString());
+}
+
+TEST_F(GroundTest, AToolTipGoesWhenThePointerLeavesItsLabel) {
+  const auto show = [this](QPoint place) {
+    QHelpEvent help(QEvent::ToolTip, place, Ground().mapToGlobal(place));
+    QCoreApplication::sendEvent(&Ground(), &help);
+  };
+  const auto hasGone = [] { return !QToolTip::isVisible(); };
+  show(MiddleOf(bench.Readout));
+  ASSERT_FALSE(hasGone());
+  const QPointF place(MiddleOf(bench.Tag));
+  QMouseEvent move(QEvent::MouseMove, place, Ground().mapToGlobal(place), Qt::NoButton,
+                   Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&Ground(), &move);
+  EXPECT_TRUE(QTest::qWaitFor(hasGone)) << "onto the ground";
+  show(MiddleOf(bench.Readout));
+  ASSERT_FALSE(hasGone());
+  show(WidgetOf(bench.Combo).geometry().center()); // as the combo has no tool tip of its own
+  EXPECT_TRUE(QTest::qWaitFor(hasGone)) << "onto a widget";
 }
 
 } // namespace

@@ -333,6 +333,11 @@ TEST_F(SurprisesTest, AFormGoesInAnyHandlerOfItsControls) {
   });
   bench.Knob.onMouseDown = [&](const MouseEvent & /*event*/) { leave(); };
   tryOut("a knob", [this] { QTest::mouseClick(&WidgetOf(bench.Knob), Qt::LeftButton); });
+  bench.Tag.onClick = leave;
+  tryOut("a label", [this] {
+    QTest::mouseClick(&GroundOf(bench), Qt::LeftButton, Qt::NoModifier,
+                      DrawnFor(bench.Tag)->Area().center());
+  });
   bench.Menu_Order.onClick = leave;
   tryOut("a shortcut",
          [this] { QTest::keyClick(Focused(bench.Box), Qt::Key_O, Qt::ControlModifier); });

@@ -37,6 +37,7 @@ public:
   Label Title       {*this, "Title",        {150, 90, 4000, 345}, {.caption = "Workbench", .style = LabelStyle::Title}};
   Label Tag         {*this, "Tag",          {150, 480, 900, 240}, {.caption = "label"}};
   Label Readout     {*this, "Readout",      {3000, 480, 1300, 270}, {.caption = "/home/sounds", .style = LabelStyle::Readout, .toolTip = "A folder"}};
+  Label Low         {*this, "Low",          {1200, 525, 600, 90}, {.caption = "Ag"}};
   TextBox Box       {*this, "Box",          {150, 750, 480, 300}, {.toolTip = "A number", .says = "Number"}};
   TextBox Name      {*this, "Name",         {750, 750, 1500, 300}, {.text = "", .says = "Name", .maxLength = 16}};
   TextBox Blended   {*this, "Blended",      {2400, 750, 480, 300}, {.says = "Blended", .enabled = false}};
