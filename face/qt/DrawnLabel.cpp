@@ -43,11 +43,6 @@ double PartBefore(LabelAlign align) {
   }
 }
 
-// Neither a line break, nor a tab, which would be as wide as eight letters.
-bool IsOneLine(const QString &text) {
-  return std::none_of(text.begin(), text.end(), [](QChar letter) { return letter < u' '; });
-}
-
 } // namespace
 
 QFont FontOfLabel(LabelStyle style, const Scale &scale) {
@@ -61,7 +56,7 @@ QFont FontOfLabel(LabelStyle style, const Scale &scale) {
   }
 }
 
-// A line break at the end would push the text up.
+// A line break at the end would push the text up, and a tab be as wide as eight letters.
 void DrawnLabel::Follow(const Scale &scale) {
   Place now = label.DesignPlace();
   now.width = label.Width();
@@ -69,6 +64,7 @@ void DrawnLabel::Follow(const Scale &scale) {
   text = WithLineBreaks(FromModel(label.Caption()));
   while (text.endsWith(u'\n'))
     text.chop(1);
+  text.replace(u'\t', u' ');
 }
 
 void DrawnLabel::Draw(QPainter &painter, const GroundLook &look) const {
@@ -113,7 +109,7 @@ void DrawnLabel::DrawLine(QPainter &painter, const QRect &area, const Scale &sca
     width = std::max(1.0, letters.horizontalAdvance(line));
   }
   const double stretch = std::clamp(room / std::round(width), NarrowestStretch, 1.0);
-  if (stretch == 1 && letters.height() <= area.height() && IsOneLine(line)) {
+  if (stretch == 1 && letters.height() <= area.height() && !line.contains(u'\n')) {
     const QPointF begin((area.width() - width) * PartBefore(label.Align()),
                         (area.height() - letters.height()) / 2 + letters.ascent());
     painter.drawText(area.topLeft() + begin, line);

@@ -111,9 +111,9 @@ TEST_F(GroundTest, BreaksAtTheEndOfACaptionMoveNothing) {
 }
 
 TEST_F(GroundTest, ATabIsABlank) {
-  bench.Title.SetCaption("a b");
+  bench.Tag.SetCaption("a b");
   const QImage blank = Ground().grab().toImage();
-  bench.Title.SetCaption("a\tb");
+  bench.Tag.SetCaption("a\tb");
   EXPECT_EQ(Ground().grab().toImage(), blank);
 }
 
