@@ -72,6 +72,12 @@ class GroundDescription : public QAccessibleWidget {
 public:
   explicit GroundDescription(Ground &described)
       : QAccessibleWidget(&described), ground(described) {}
+  ~GroundDescription() override {
+    for (const auto &[drawn, id] : ids)
+      QAccessible::deleteAccessibleInterface(id);
+  }
+  GroundDescription(const GroundDescription &) = delete;
+  GroundDescription &operator=(const GroundDescription &) = delete;
 
   // Made when it is first asked for, which without a reader is never. Null for what doesn't stand
   // for itself.
@@ -98,12 +104,6 @@ public:
     }
     const DrawnControl *drawn = ground.DrawnAt(place);
     return drawn == nullptr ? nullptr : Of(*drawn);
-  }
-
-protected:
-  ~GroundDescription() override {
-    for (const auto &[drawn, id] : ids)
-      QAccessible::deleteAccessibleInterface(id);
   }
 
 private:

@@ -18,8 +18,8 @@ void ChooseEventLoop();
 
 // The toolkit opens what speaks to an X server while the fonts are read beside it, and each page
 // that the loader fills in must then be told to the other thread's processor: a millisecond in all.
-// Opened before there is a thread, it is there when the toolkit asks. False where the display will
-// be another one, or the toolkit has it under another name: nothing is done then, and nothing lost.
+// Opened before there is a thread, it is there when the toolkit asks. False where the environment
+// doesn't speak for an X server, or the toolkit has it under another name: it is opened later then.
 bool OpenDisplayLibrary();
 
 // The QApplication of the process, with what is done beside its making and that of the first

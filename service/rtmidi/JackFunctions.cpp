@@ -14,7 +14,8 @@
 #include <tuple>
 #include <type_traits>
 
-// All that RtMidi calls of JACK, and we ourselves: how many arguments it takes, and its name.
+// All that RtMidi calls of JACK, and we ourselves: how many arguments it takes, and its name. For a
+// function that is missing here the linker binds the library itself, at each start.
 // clang-format off
 #define ALL_JACK_FUNCTIONS(row) \
   row(3AndMore, jack_client_open) \
