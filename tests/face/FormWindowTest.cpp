@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPaintEvent>
 #include <QTest>
 
 namespace Tessoro::Tests {

@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QTest>
 #include <QToolTip>
 
