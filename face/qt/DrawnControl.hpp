@@ -29,7 +29,7 @@ private:
   std::array<QFont, static_cast<std::size_t>(LabelStyle::Title) + 1> fonts; // by style
 };
 
-// A form has a hundred of them, and a widget for each would be most of what its window costs.
+// A form has a hundred of them, and a widget costs more to make and to show than these to draw.
 class DrawnControl {
 public:
   explicit DrawnControl(Control &shown) : control(shown) {}

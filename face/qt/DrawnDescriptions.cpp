@@ -56,10 +56,8 @@ public:
 private:
   const DrawnLabel *Label() const { return dynamic_cast<const DrawnLabel *>(&drawn); }
 
-  // A label is called what it shows, unless it shows a bare value and says what that is.
+  // A label is called what it shows, a frame as its window is.
   QString Name() const {
-    if (!drawn.Shown().Says().empty())
-      return FromModel(drawn.Shown().Says());
     return Label() == nullptr ? ground->window()->windowTitle() : Label()->Text();
   }
 
