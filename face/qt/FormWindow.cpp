@@ -276,8 +276,10 @@ void FormWindow::BoxHasGone() {
 bool FormWindow::eventFilter(QObject *watched, QEvent *event) {
   switch (event->type()) {
   case QEvent::ShortcutOverride:
-    // A box would keep editing keys for itself; an entry of the menu goes first.
-    if (menu != nullptr && menu->Claims(*static_cast<QKeyEvent *>(event))) {
+    // A box would keep editing keys for itself; an entry of the menu goes first. An opened list is
+    // a window of its own, which no shortcut of this one reaches.
+    if (menu != nullptr && static_cast<QWidget *>(watched)->window() == this &&
+        menu->Claims(*static_cast<QKeyEvent *>(event))) {
       EndNotes();
       event->ignore();
       return true;

@@ -22,6 +22,7 @@ ItemList::ItemList(QWidget &forField) : QListWidget(&forField), field(forField) 
   setFont(field.font());
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setMouseTracking(true);
+  installEventFilter(field.window()); // a form that previews keys sees those of its lists too
 }
 
 void ItemList::Open() {

@@ -141,6 +141,17 @@ TEST_F(FormWindowTest, ShiftComesAndGoesWhereverTheFocusLies) {
   }
 }
 
+TEST_F(FormWindowTest, ShiftComesAndGoesWhileAListIsOpen) {
+  Focus(bench.Combo);
+  QTest::keyClick(&WidgetOf(bench.Combo), Qt::Key_F4);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  ASSERT_EQ(QApplication::focusWidget(), QApplication::activePopupWidget());
+  Heard();
+  Send(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+  Send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
+  EXPECT_THAT(Heard(), ElementsAre("KeyDown 16 1", "KeyUp 16 0"));
+}
+
 TEST_F(FormWindowTest, AHeldKeyGoesDownAgainAndAgainAndComesUpOnce) {
   Focus(bench.Push);
   for (const bool repeats : {false, true, true}) {
